@@ -1,0 +1,11 @@
+// How core operations talk to the person at the screen: a message with OK alone, or a question with Yes and No.
+// The window supplies a real dialog; tests supply a scripted fake. No core library knows which one it has.
+#pragma once
+
+#include <string_view>
+
+struct Prompt {
+    virtual ~Prompt() = default;
+    virtual void showOk(std::string_view text) = 0;    // a message with OK alone
+    virtual bool askYesNo(std::string_view text) = 0;  // true for Yes; false (No) ends the operation
+};

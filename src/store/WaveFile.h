@@ -1,0 +1,80 @@
+// The one reader and the one writer of WAV files. The reader hands back the format record and the 16-bit values
+// of the "data" chunk; what formats are acceptable is decided by each caller. The writer makes one file shape only:
+// RIFF, an 18-byte "fmt " chunk and a "data" chunk, 46 bytes of header in all.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <span>
+#include <string_view>
+#include <vector>
+
+struct Prompt;
+
+// Result codes of the reader. Callers test only for zero.
+inline constexpr int kWaveOk = 0;
+inline constexpr int kWaveNoMemory = 0xE000;           // memory could not be allocated
+inline constexpr int kWaveCannotOpen = 0xE100;         // the file could not be opened
+inline constexpr int kWaveNotWave = 0xE101;            // not RIFF WAVE, "fmt " under 16 bytes, extra bytes short
+inline constexpr int kWaveFormatUnreadable = 0xE102;   // the 16 fixed bytes or the extra size could not be read
+inline constexpr int kWaveDataTruncated = 0xE103;      // "data" claims more bytes than the file holds
+inline constexpr int kWaveChunkNotFound = 265;         // from the RIFF walker: no "fmt " or "data" chunk
+
+inline constexpr std::string_view kCannotRecordFile =
+    "The %s file can´t be recorded!\nVerify if the file is opened!";
+
+// The file's format record in its on-disk order; `extra` holds the cbSize bytes that follow it.
+struct WaveFormat {
+    std::uint16_t wFormatTag = 0;
+    std::uint16_t nChannels = 0;
+    std::uint32_t nSamplesPerSec = 0;
+    std::uint32_t nAvgBytesPerSec = 0;
+    std::uint16_t nBlockAlign = 0;
+    std::uint16_t wBitsPerSample = 0;
+    std::uint16_t cbSize = 0;
+    std::vector<std::uint8_t> extra;
+
+    bool operator==(const WaveFormat&) const = default;
+};
+
+// An open WAV file being read: the stream and where its chunks lie.
+class WaveHandle {
+public:
+    std::ifstream stream;
+    std::uint64_t fileSize = 0;
+    std::uint64_t riffDataOffset = 0;  // first byte after "RIFF" and its size, that is the form type
+    std::uint64_t dataOffset = 0;      // first byte of the "data" chunk's contents
+    std::uint32_t dataRemaining = 0;   // bytes of the "data" chunk not yet read
+};
+
+struct WaveOpenResult {
+    int code = kWaveOk;
+    WaveHandle handle;
+    WaveFormat format;
+};
+
+struct WaveLoadResult {
+    int code = kWaveOk;
+    WaveFormat format;
+    std::vector<std::int16_t> samples;  // count = samples.size(), the data chunk's bytes / 2
+};
+
+WaveOpenResult WaveOpen(const std::filesystem::path& fileName);
+int WaveFindData(WaveHandle& handle);
+// Copies up to `bytes` / 2 values of what the data chunk has left into `buffer`; `count` gets how many.
+int WaveReadSamples(WaveHandle& handle, std::int16_t* buffer, std::uint32_t bytes, std::uint32_t& count);
+WaveLoadResult WaveLoad(const std::filesystem::path& fileName);
+
+// Holds the format record that files are written with.
+class WaveWriter {
+public:
+    WaveFormat format;
+
+    // Fills the format record from the record-format table: index 0..9 gives 8000, 11025, 22050, 44100 and
+    // 50000 Hz in pairs, even indices 8 bits, odd indices 16 bits, always one channel.
+    void SetRecordFormat(int index);
+    // Writes the 46-byte header and `bytes` bytes of samples. Returns 1, or 0 after telling the user.
+    int WaveWrite(const std::filesystem::path& fileName, std::uint32_t bytes, const std::int16_t* samples,
+                  Prompt& prompt) const;
+};

@@ -1,0 +1,48 @@
+// A fresh folder for one test, removed with everything in it when the test ends.
+#pragma once
+
+#include <atomic>
+#include <filesystem>
+#include <fstream>
+#include <initializer_list>
+#include <random>
+#include <string>
+#include <string_view>
+
+class TempDir {
+public:
+    TempDir() {
+        static std::atomic<int> counter{0};
+        std::random_device random;
+        m_path = std::filesystem::temp_directory_path() /
+                 ("sonalys-test-" + std::to_string(random()) + "-" + std::to_string(counter++));
+        std::filesystem::create_directories(m_path);
+    }
+    ~TempDir() {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_path, ignored);
+    }
+    TempDir(const TempDir&) = delete;
+    TempDir& operator=(const TempDir&) = delete;
+
+    const std::filesystem::path& path() const noexcept { return m_path; }
+    std::filesystem::path operator/(std::string_view name) const { return m_path / name; }
+
+    // Creates each named file (folders included) with the given contents.
+    void write(std::string_view name, std::string_view contents = {}) const {
+        const auto file = m_path / name;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream out(file, std::ios::binary);
+        out.write(contents.data(), static_cast<std::streamsize>(contents.size()));
+    }
+    void touch(std::initializer_list<std::string_view> names) const {
+        for (auto name : names) write(name);
+    }
+    std::string read(std::string_view name) const {
+        std::ifstream in(m_path / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    }
+
+private:
+    std::filesystem::path m_path;
+};
