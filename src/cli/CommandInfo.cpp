@@ -20,9 +20,9 @@ int runInfo(CommandArgs words) {
         return 2;
     }
     const WaveFormat& f = loaded.format;
-    std::cout << "format_tag," << f.wFormatTag << "\nchannels," << f.nChannels << "\nsample_rate,"
-              << f.nSamplesPerSec << "\navg_bytes_per_sec," << f.nAvgBytesPerSec << "\nblock_align,"
-              << f.nBlockAlign << "\nbits_per_sample," << f.wBitsPerSample << "\nextra_size," << f.cbSize
-              << "\nvalues," << loaded.samples.size() << "\n";
+    std::cout << "format_tag," << f.wFormatTag << "\nchannels," << f.nChannels << "\nsample_rate," << f.nSamplesPerSec
+              << "\navg_bytes_per_sec," << f.nAvgBytesPerSec << "\nblock_align," << f.nBlockAlign
+              << "\nbits_per_sample," << f.wBitsPerSample << "\nextra_size," << f.cbSize << "\nvalues,"
+              << loaded.samples.size() << "\n";
     return 0;
 }

@@ -8,16 +8,12 @@
 #include <span>
 #include <vector>
 
-inline std::uint16_t readLE16(const std::uint8_t* p) noexcept {
-    return static_cast<std::uint16_t>(p[0] | (p[1] << 8));
-}
+inline std::uint16_t readLE16(const std::uint8_t* p) noexcept { return static_cast<std::uint16_t>(p[0] | (p[1] << 8)); }
 inline std::uint32_t readLE32(const std::uint8_t* p) noexcept {
     return static_cast<std::uint32_t>(p[0]) | (static_cast<std::uint32_t>(p[1]) << 8) |
            (static_cast<std::uint32_t>(p[2]) << 16) | (static_cast<std::uint32_t>(p[3]) << 24);
 }
-inline std::int32_t readLE32Signed(const std::uint8_t* p) noexcept {
-    return static_cast<std::int32_t>(readLE32(p));
-}
+inline std::int32_t readLE32Signed(const std::uint8_t* p) noexcept { return static_cast<std::int32_t>(readLE32(p)); }
 inline void writeLE16(std::uint8_t* p, std::uint16_t v) noexcept {
     p[0] = static_cast<std::uint8_t>(v);
     p[1] = static_cast<std::uint8_t>(v >> 8);
@@ -39,15 +35,13 @@ inline void samplesFromLE(std::span<const std::uint8_t> bytes, std::int16_t* out
     if constexpr (std::endian::native == std::endian::little) {
         std::memcpy(out, bytes.data(), count * 2);
     } else {
-        for (std::size_t i = 0; i < count; ++i)
-            out[i] = static_cast<std::int16_t>(readLE16(bytes.data() + 2 * i));
+        for (std::size_t i = 0; i < count; ++i) out[i] = static_cast<std::int16_t>(readLE16(bytes.data() + 2 * i));
     }
 }
 inline void samplesToLE(std::span<const std::int16_t> samples, std::uint8_t* out) noexcept {
     if constexpr (std::endian::native == std::endian::little) {
         std::memcpy(out, samples.data(), samples.size() * 2);
     } else {
-        for (std::size_t i = 0; i < samples.size(); ++i)
-            writeLE16(out + 2 * i, static_cast<std::uint16_t>(samples[i]));
+        for (std::size_t i = 0; i < samples.size(); ++i) writeLE16(out + 2 * i, static_cast<std::uint16_t>(samples[i]));
     }
 }

@@ -15,7 +15,7 @@ public:
 
     bool isOpen() const noexcept { return m_file != nullptr; }
     bool write(const void* data, std::size_t size) noexcept;  // false once any write has failed
-    bool commit() noexcept;                                    // flush to disk, then rename over the target
+    bool commit() noexcept;                                   // flush to disk, then rename over the target
 
     const std::filesystem::path& target() const noexcept { return m_target; }
     const std::filesystem::path& temporary() const noexcept { return m_temporary; }

@@ -14,15 +14,14 @@ struct Prompt;
 
 // Result codes of the reader. Callers test only for zero.
 inline constexpr int kWaveOk = 0;
-inline constexpr int kWaveNoMemory = 0xE000;           // memory could not be allocated
-inline constexpr int kWaveCannotOpen = 0xE100;         // the file could not be opened
-inline constexpr int kWaveNotWave = 0xE101;            // not RIFF WAVE, "fmt " under 16 bytes, extra bytes short
-inline constexpr int kWaveFormatUnreadable = 0xE102;   // the 16 fixed bytes or the extra size could not be read
-inline constexpr int kWaveDataTruncated = 0xE103;      // "data" claims more bytes than the file holds
-inline constexpr int kWaveChunkNotFound = 265;         // from the RIFF walker: no "fmt " or "data" chunk
+inline constexpr int kWaveNoMemory = 0xE000;          // memory could not be allocated
+inline constexpr int kWaveCannotOpen = 0xE100;        // the file could not be opened
+inline constexpr int kWaveNotWave = 0xE101;           // not RIFF WAVE, "fmt " under 16 bytes, extra bytes short
+inline constexpr int kWaveFormatUnreadable = 0xE102;  // the 16 fixed bytes or the extra size could not be read
+inline constexpr int kWaveDataTruncated = 0xE103;     // "data" claims more bytes than the file holds
+inline constexpr int kWaveChunkNotFound = 265;        // from the RIFF walker: no "fmt " or "data" chunk
 
-inline constexpr std::string_view kCannotRecordFile =
-    "The %s file can´t be recorded!\nVerify if the file is opened!";
+inline constexpr std::string_view kCannotRecordFile = "The %s file can´t be recorded!\nVerify if the file is opened!";
 
 // The file's format record in its on-disk order; `extra` holds the cbSize bytes that follow it.
 struct WaveFormat {

@@ -23,9 +23,9 @@ TEST(WaveWrite, WritesTheFixedHeaderAndLittleEndianSamples) {
     ASSERT_EQ(writerAt(5).WaveWrite(dir / "a.wav", 6, samples, prompt), 1);
     const std::string bytes = dir.read("a.wav");
     const unsigned char expected[] = {
-        'R', 'I', 'F', 'F', 44, 0, 0, 0, 'W', 'A', 'V', 'E', 'f', 'm', 't', ' ', 18, 0, 0, 0,  //
-        1, 0, 1, 0, 0x22, 0x56, 0, 0, 0x44, 0xAC, 0, 0, 2, 0, 16, 0, 0, 0,                     //
-        'd', 'a', 't', 'a', 6, 0, 0, 0, 1, 0, 0xFE, 0xFF, 0x34, 0x12};
+        'R', 'I', 'F', 'F', 44,   0,    0, 0, 'W',  'A',  'V',  'E',  'f',  'm', 't', ' ', 18, 0, 0, 0,  //
+        1,   0,   1,   0,   0x22, 0x56, 0, 0, 0x44, 0xAC, 0,    0,    2,    0,   16,  0,   0,  0,        //
+        'd', 'a', 't', 'a', 6,    0,    0, 0, 1,    0,    0xFE, 0xFF, 0x34, 0x12};
     ASSERT_EQ(bytes.size(), sizeof expected);
     EXPECT_EQ(std::memcmp(bytes.data(), expected, sizeof expected), 0);
     EXPECT_TRUE(prompt.shown.empty());
@@ -43,7 +43,6 @@ TEST(WaveWrite, AFolderThatDoesNotExistIsReportedAndNothingIsWritten) {
     const auto target = dir / "missing" / "b.wav";
     EXPECT_EQ(writerAt(3).WaveWrite(target, 2, &sample, prompt), 0);
     ASSERT_EQ(prompt.shown.size(), 1u);
-    EXPECT_EQ(prompt.shown[0],
-              "The " + target.string() + " file can´t be recorded!\nVerify if the file is opened!");
+    EXPECT_EQ(prompt.shown[0], "The " + target.string() + " file can´t be recorded!\nVerify if the file is opened!");
     EXPECT_FALSE(std::filesystem::exists(target));
 }
