@@ -189,7 +189,8 @@ void DbfTable::assign(int index, std::string_view text) {
     const DbfField& f = field(index);
     std::uint8_t* target = record(m_current) + f.offset;
     std::memset(target, ' ', static_cast<std::size_t>(f.length));
-    std::memcpy(target, text.data(), std::min(text.size(), static_cast<std::size_t>(f.length)));
+    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(f.length));
+    if (length != 0) std::memcpy(target, text.data(), length);
 }
 
 void DbfTable::markDeleted() { record(m_current)[0] = kDeletedFlag; }

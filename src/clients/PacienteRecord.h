@@ -34,7 +34,7 @@ std::string_view recordText(const char (&buffer)[N]) noexcept {
 template <std::size_t N>
 void setRecordText(char (&buffer)[N], std::string_view text) noexcept {
     const std::size_t length = text.size() < N ? text.size() : N - 1;
-    std::memcpy(buffer, text.data(), length);
+    if (length != 0) std::memcpy(buffer, text.data(), length);
     std::memset(buffer + length, 0, N - length);
 }
 
