@@ -120,13 +120,16 @@ std::optional<CPacienteTable::OpenedTable> CPacienteTable::openTable() {
         m_prompt.showOk(kInvalidFile);
         return std::nullopt;
     }
+    // Each of the eleven names must be there, holding its value as text (character or numeric); another tool's
+    // table may order or size them otherwise.
     OpenedTable opened{std::move(*result.table), {}};
     for (std::size_t i = 0; i < kPacienteFields.size(); ++i) {
-        opened.columns[i] = opened.table.fieldIndex(kPacienteFields[i].name);
-        if (opened.columns[i] < 0) {
+        const int column = opened.table.fieldIndex(kPacienteFields[i].name);
+        if (column < 0 || (opened.table.field(column).type != 'C' && opened.table.field(column).type != 'N')) {
             m_prompt.showOk(kInvalidFile);
             return std::nullopt;
         }
+        opened.columns[i] = column;
     }
     return opened;
 }

@@ -243,7 +243,9 @@ TEST_F(ClientTable, ATableWithOtherFieldsIsInvalidAndNeverChanged) {
     twelve.push_back({"EMAIL", 'C', 40, 0});
     std::vector<DbfFieldSpec> renamed = twelve;
     renamed.erase(renamed.begin() + 1);  // eleven fields, but no NOME
-    for (const auto& fields : {ten, twelve, renamed}) {
+    std::vector<DbfFieldSpec> memo(kPacienteFields.begin(), kPacienteFields.end());
+    memo[kObs] = {"OBS", 'M', 10, 0};  // notes kept in a memo file the table cannot reach
+    for (const auto& fields : {ten, twelve, renamed, memo}) {
         createWith({1});
         ASSERT_EQ(table.LoadClients(), 1);
         writeForeignTable(file(), fields, {{"2", "Outra"}});
