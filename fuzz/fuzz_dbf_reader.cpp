@@ -20,10 +20,16 @@ public:
     bool askYesNo(std::string_view) override { return false; }
 };
 
-// A data root of its own for the whole run, removed at exit.
+// A data root of its own for the whole run, removed at exit; in memory where the system offers it, since each
+// input is written as a file and disks make that slow.
+std::filesystem::path scratchFolder() {
+    std::error_code error;
+    if (std::filesystem::is_directory("/dev/shm", error)) return "/dev/shm";
+    return std::filesystem::temp_directory_path();
+}
+
 struct FuzzRoot {
-    std::filesystem::path path =
-        std::filesystem::temp_directory_path() / ("sonalys-fuzz-dbf-" + std::to_string(std::random_device()()));
+    std::filesystem::path path = scratchFolder() / ("sonalys-fuzz-dbf-" + std::to_string(std::random_device()()));
     FuzzRoot() { std::filesystem::create_directories(path); }
     ~FuzzRoot() {
         std::error_code ignored;
