@@ -40,6 +40,13 @@ void assignFields(DbfTable& table, const Columns& columns, const PacienteRecord&
     table.assign(columns[kObs], recordText(record.Obs));
 }
 
+bool hasCode(DbfTable& table, const Columns& columns, int code) {
+    for (table.top(); !table.eof(); table.skip()) {
+        if (!table.deleted() && dbfFieldToInt(table.fieldText(columns[kCodigo])) == code) return true;
+    }
+    return false;
+}
+
 PacienteEntry readEntry(const DbfTable& table, const Columns& columns) {
     PacienteEntry entry;
     entry.codigoText = table.fieldText(columns[kCodigo]);
@@ -263,6 +270,12 @@ int CPacienteTable::InsertClient(const PacienteRecord& record) {
             const int width = opened.table.field(opened.columns[kCodigo]).length;
             if (record.Codigo < 1 || code.size() > static_cast<std::size_t>(width)) {
                 m_prompt.showOk(formatText(kCodeDoesNotFit.data(), record.Codigo));
+                return false;
+            }
+            // Two copies of the program on one data root may both have offered the same free code; the second
+            // insert finds the first one's row here, under the lock, and refuses rather than share a folder.
+            if (hasCode(opened.table, opened.columns, record.Codigo)) {
+                m_prompt.showOk(formatText(kCodeTaken.data(), record.Codigo));
                 return false;
             }
             opened.table.appendBlank();

@@ -36,6 +36,9 @@ inline constexpr std::string_view kClientRowMissing = "This client is not in the
 inline constexpr std::string_view kCodeDoesNotFit =
     "The client code %d can´t be stored in the client table!\nThe client was not inserted.";
 
+inline constexpr std::string_view kCodeTaken =
+    "The client code %d was just given to another client!\nThe client was not inserted.";
+
 inline constexpr std::string_view kClientTableName = "pacb.dbf";
 
 // The eleven fields in their fixed order. A table must have exactly these names; another tool's table may give

@@ -125,7 +125,8 @@ TEST_F(ClientTable, NumbersWrittenRightJustifiedByAnotherToolReadAndMatch) {
 }
 
 TEST_F(ClientTable, AFilterLoadsTheMatchesAndReturnsTheLastMatchingRecordNumber) {
-    createWith({5, 7, 5});
+    // A table written elsewhere may hold one code twice.
+    writeRows({{"5", "Client 5"}, {"7", "Client 7"}, {"5", "Client 5 again"}});
     EXPECT_EQ(table.LoadClients("CODIGO=5"), 3);
     EXPECT_EQ(listedCodes(table), (std::vector<int>{5, 5}));
     EXPECT_EQ(table.LoadClients("CODIGO = 7"), 2);
@@ -349,4 +350,12 @@ TEST_F(ClientTable, AWriterWaitsABoundedTimeForAnotherWriterAndThenGivesUp) {
     }
     EXPECT_EQ(table.InsertClient(makeClient(2, "B")), 1);
     EXPECT_EQ(table.LoadClients(), 2);
+}
+
+TEST_F(ClientTable, ACodeAlreadyInTheTableIsNotGivenToASecondClient) {
+    createWith({1, 2});
+    const auto before = readBytes(file());
+    EXPECT_EQ(table.InsertClient(makeClient(2, "Outra")), 0);
+    EXPECT_EQ(prompt.last(), "The client code 2 was just given to another client!\nThe client was not inserted.");
+    EXPECT_EQ(readBytes(file()), before);
 }
