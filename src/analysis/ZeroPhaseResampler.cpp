@@ -1,0 +1,224 @@
+#include "ZeroPhaseResampler.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "store/Assert.h"
+
+// How the stage runs fast. Written plainly, the stage runs its filter twice over up * n working-rate steps, most of
+// them fed with stuffed zeros and most of their outputs thrown away. Both passes are linear, so over a block of
+// whole periods (a period is up * down working steps: `down` inputs in, `up` outputs out) they reduce to matrices:
+//   forward:  the forward filter's state at the block's end, from its state at the start and the block's inputs;
+//   backward: the block's outputs and the backward filter's state at the block's start, from the backward state at
+//             the block's end, the forward state at the block's start and the block's inputs.
+// The matrices are built once per stage by running the sections themselves on unit signals, so they are exactly
+// the forward-then-backward filter at the working rate, only evaluated without the wasted steps. A first sweep runs
+// the forward matrix over the blocks and keeps the forward state at the start of every segment; the second sweep
+// goes from the end back to the start, recomputing each segment's forward states from the kept one.
+
+namespace {
+
+constexpr long long kSegmentBlocks = 256;  // blocks between two kept forward states
+constexpr double kDecayLevel = 1e-13;      // a response this small, relative to the impulse, counts as gone
+
+// One working-rate step of the cascade in transposed direct form II; `state` holds two values per section.
+double stepCascade(const std::vector<FilterSection>& sections, double* state, double value) {
+    for (const FilterSection& f : sections) {
+        const double y = f.b0 * value + state[0];
+        state[0] = f.b1 * value - f.a1 * y + state[1];
+        state[1] = f.b2 * value - f.a2 * y;
+        value = y;
+        state += 2;
+    }
+    return value;
+}
+
+// out = matrix * in, the matrix held column by column with `rows` rows; each sum runs over the columns in order.
+void multiply(const double* matrix, int rows, std::span<const double> in, double* out) {
+    std::fill(out, out + rows, 0.0);
+    for (const double v : in) {
+        for (int r = 0; r < rows; ++r) out[r] += matrix[r] * v;
+        matrix += rows;
+    }
+}
+
+double largestPoleRadius(const std::vector<FilterSection>& sections) {
+    double radius = 0.0;
+    for (const FilterSection& f : sections) {
+        const double discriminant = f.a1 * f.a1 - 4.0 * f.a2;
+        if (discriminant < 0.0) {
+            radius = std::max(radius, std::sqrt(f.a2));
+        } else {
+            const double root = std::sqrt(discriminant);
+            radius = std::max({radius, std::fabs(-f.a1 + root) / 2.0, std::fabs(-f.a1 - root) / 2.0});
+        }
+    }
+    return radius;
+}
+
+// Multiply-adds of one block of `periods` periods: the backward matrix, and the forward matrix run twice.
+double workPerBlock(int up, int down, int states, int periods) {
+    const double inputs = static_cast<double>(periods) * down;
+    const double outputs = static_cast<double>(periods) * up;
+    return (outputs + states) * (2.0 * states + inputs) + 2.0 * states * (states + inputs);
+}
+
+// Longer blocks share the state terms among more inputs, but the input-to-output term grows with the square of the
+// length; this is the block length with the least work per input.
+int bestPeriods(int up, int down, int states) {
+    int best = 1;
+    for (int periods = 2; periods <= 64; ++periods) {
+        if (workPerBlock(up, down, states, periods) / periods < workPerBlock(up, down, states, best) / best) {
+            best = periods;
+        }
+    }
+    return best;
+}
+
+// Calls the progress callback whenever another hundredth of the work is done.
+class ProgressSteps {
+public:
+    ProgressSteps(const ConversionProgress& progress, double total) : m_progress(progress), m_total(total) {}
+    bool advance(double work) {
+        m_done += work;
+        if (!m_progress || m_done * 100.0 < m_nextHundredth * m_total) return true;
+        while (m_nextHundredth * m_total <= m_done * 100.0) ++m_nextHundredth;
+        return m_progress(std::min(1.0, m_done / m_total));
+    }
+
+private:
+    const ConversionProgress& m_progress;
+    double m_total;
+    double m_done = 0.0;
+    int m_nextHundredth = 1;
+};
+
+}  // namespace
+
+ZeroPhaseResampler::ZeroPhaseResampler(int up, int down, std::vector<FilterSection> sections)
+    : m_up(up), m_down(down), m_sections(std::move(sections)) {
+    SONALYS_ASSERT(up >= 1 && down >= 1);
+    m_states = 2 * static_cast<int>(m_sections.size());
+    m_periods = bestPeriods(up, down, m_states);
+    m_blockInputs = m_periods * down;
+    m_blockOutputs = m_periods * up;
+    const double radius = largestPoleRadius(m_sections);
+    // Twice the single-pole decay time covers the slower decay of poles repeated by a cascade.
+    m_decaySteps = radius > 0.0 ? 2 * static_cast<long long>(std::ceil(std::log(kDecayLevel) / std::log(radius))) : 0;
+    buildMaps();
+}
+
+double ZeroPhaseResampler::workPerInput(int up, int down, int stateSize) {
+    const int periods = bestPeriods(up, down, stateSize);
+    return workPerBlock(up, down, stateSize, periods) / (static_cast<double>(periods) * down);
+}
+
+void ZeroPhaseResampler::simulateBlock(std::span<const double> s0, std::span<const double> x,
+                                       std::span<const double> qEnd, std::span<double> sEnd, std::span<double> y,
+                                       std::span<double> qStart) const {
+    const int steps = m_periods * m_up * m_down;
+    std::vector<double> forward(static_cast<std::size_t>(steps));
+    std::copy(s0.begin(), s0.end(), sEnd.begin());
+    for (int t = 0; t < steps; ++t) {
+        // Stuffing up - 1 zeros after each value divides the signal's level by up; the value goes in up times as
+        // large so that the passband keeps its level.
+        forward[t] = stepCascade(m_sections, sEnd.data(), t % m_up == 0 ? m_up * x[t / m_up] : 0.0);
+    }
+    std::copy(qEnd.begin(), qEnd.end(), qStart.begin());
+    for (int t = steps - 1; t >= 0; --t) {
+        const double value = stepCascade(m_sections, qStart.data(), forward[t]);
+        if (t % m_down == 0) y[t / m_down] = value;
+    }
+}
+
+void ZeroPhaseResampler::buildMaps() {
+    const int n = m_states;
+    const int columns = 2 * n + m_blockInputs;  // [backward state at end; forward state at start; inputs]
+    const int rows = m_blockOutputs + n;        // [outputs; backward state at start]
+    m_forward.assign(static_cast<std::size_t>(n) * (n + m_blockInputs), 0.0);
+    m_backward.assign(static_cast<std::size_t>(rows) * columns, 0.0);
+    std::vector<double> unit(columns), sEnd(n), result(rows);
+    const std::span<const double> all(unit);
+    for (int c = 0; c < columns; ++c) {
+        std::fill(unit.begin(), unit.end(), 0.0);
+        unit[c] = 1.0;
+        simulateBlock(all.subspan(n, n), all.subspan(2 * n), all.first(n), sEnd,
+                      std::span(result).first(m_blockOutputs), std::span(result).subspan(m_blockOutputs));
+        std::copy(result.begin(), result.end(), m_backward.begin() + static_cast<std::ptrdiff_t>(c) * rows);
+        if (c >= n) std::copy(sEnd.begin(), sEnd.end(), m_forward.begin() + static_cast<std::ptrdiff_t>(c - n) * n);
+    }
+}
+
+bool ZeroPhaseResampler::run(std::span<const float> input, std::span<float> output,
+                             const ConversionProgress& progress) const {
+    const int n = m_states;
+    const long long inputs = static_cast<long long>(input.size());
+    const long long outputs = static_cast<long long>(output.size());
+    const long long period = static_cast<long long>(m_periods) * m_up * m_down;
+    // Work on until the forward pass has rung out after both the last input and the last output wanted; the
+    // backward pass starts there from rest.
+    const long long lastStep = std::max(inputs * m_up, outputs * m_down) + m_decaySteps;
+    const long long blocks = (lastStep + period - 1) / period;
+    const long long segments = (blocks + kSegmentBlocks - 1) / kSegmentBlocks;
+
+    // The vectors the matrices act on: [backward state; forward state; inputs], the forward matrix using the last
+    // two parts.
+    std::vector<double> vector(static_cast<std::size_t>(2 * n + m_blockInputs), 0.0);
+    const std::span<double> backwardState = std::span(vector).first(n);
+    const std::span<double> forwardPart = std::span(vector).subspan(n);
+    const std::span<double> forwardState = forwardPart.first(n);
+    const std::span<double> blockInputs = forwardPart.subspan(n);
+    std::vector<double> result(static_cast<std::size_t>(m_blockOutputs + n));
+    std::vector<double> kept(static_cast<std::size_t>(segments * n));
+    std::vector<double> segmentStates(static_cast<std::size_t>(kSegmentBlocks * n));
+
+    const auto loadInputs = [&](long long block) {
+        const long long first = block * m_blockInputs;
+        for (int j = 0; j < m_blockInputs; ++j) {
+            blockInputs[j] = first + j < inputs ? static_cast<double>(input[first + j]) : 0.0;
+        }
+    };
+    const auto stepForward = [&] {
+        multiply(m_forward.data(), n, forwardPart, result.data());
+        std::copy(result.begin(), result.begin() + n, forwardState.begin());
+    };
+
+    const double forwardWork = static_cast<double>(n) * (n + m_blockInputs);
+    const double backwardWork = forwardWork + static_cast<double>(m_blockOutputs + n) * (2 * n + m_blockInputs);
+    ProgressSteps steps(progress, static_cast<double>(blocks) * (forwardWork + backwardWork));
+
+    for (long long block = 0; block < blocks; ++block) {
+        if (block % kSegmentBlocks == 0) {
+            std::copy(forwardState.begin(), forwardState.end(), kept.begin() + (block / kSegmentBlocks) * n);
+        }
+        loadInputs(block);
+        stepForward();
+        if (!steps.advance(forwardWork)) return false;
+    }
+
+    std::fill(backwardState.begin(), backwardState.end(), 0.0);
+    for (long long segment = segments - 1; segment >= 0; --segment) {
+        const long long first = segment * kSegmentBlocks;
+        const long long count = std::min(kSegmentBlocks, blocks - first);
+        std::copy(kept.begin() + segment * n, kept.begin() + (segment + 1) * n, forwardState.begin());
+        for (long long i = 0; i < count; ++i) {
+            std::copy(forwardState.begin(), forwardState.end(), segmentStates.begin() + i * n);
+            loadInputs(first + i);
+            stepForward();
+        }
+        for (long long i = count - 1; i >= 0; --i) {
+            const long long block = first + i;
+            std::copy(segmentStates.begin() + i * n, segmentStates.begin() + (i + 1) * n, forwardState.begin());
+            loadInputs(block);
+            multiply(m_backward.data(), m_blockOutputs + n, vector, result.data());
+            const long long firstOutput = block * m_blockOutputs;
+            for (int j = 0; j < m_blockOutputs && firstOutput + j < outputs; ++j) {
+                output[firstOutput + j] = static_cast<float>(result[j]);
+            }
+            std::copy(result.begin() + m_blockOutputs, result.end(), backwardState.begin());
+            if (!steps.advance(backwardWork)) return false;
+        }
+    }
+    return true;
+}
