@@ -3,10 +3,12 @@
 #include <array>
 
 int runInfo(CommandArgs args);
+int runConvert(CommandArgs args);
 
 std::span<const Command> allCommands() {
     static constexpr std::array kCommands{
         Command{"info", "info FILE.wav            format, length and whether the file opens as-is", runInfo},
+        Command{"convert", "convert IN.wav OUT.wav --rate 11025|22050|44100  as 16-bit mono at that rate", runConvert},
     };
     return kCommands;
 }
