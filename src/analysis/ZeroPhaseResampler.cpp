@@ -34,13 +34,35 @@ double stepCascade(const std::vector<FilterSection>& sections, double* state, do
     return value;
 }
 
-// out = matrix * in, the matrix held column by column with `rows` rows; each sum runs over the columns in order.
-void multiply(const double* matrix, int rows, std::span<const double> in, double* out) {
-    std::fill(out, out + rows, 0.0);
+// Rows of the matrices are stored in whole groups of four (the extra rows are zeros), so that the products can be
+// formed four or eight rows at a time with every partial sum held in a register.
+int paddedRows(int rows) { return (rows + 3) / 4 * 4; }
+
+void multiplyEightRows(const double* m, int stride, std::span<const double> in, double* out) {
+    double s0 = 0.0, s1 = 0.0, s2 = 0.0, s3 = 0.0, s4 = 0.0, s5 = 0.0, s6 = 0.0, s7 = 0.0;
     for (const double v : in) {
-        for (int r = 0; r < rows; ++r) out[r] += matrix[r] * v;
-        matrix += rows;
+        s0 += m[0] * v, s1 += m[1] * v, s2 += m[2] * v, s3 += m[3] * v;
+        s4 += m[4] * v, s5 += m[5] * v, s6 += m[6] * v, s7 += m[7] * v;
+        m += stride;
     }
+    out[0] = s0, out[1] = s1, out[2] = s2, out[3] = s3, out[4] = s4, out[5] = s5, out[6] = s6, out[7] = s7;
+}
+
+void multiplyFourRows(const double* m, int stride, std::span<const double> in, double* out) {
+    double s0 = 0.0, s1 = 0.0, s2 = 0.0, s3 = 0.0;
+    for (const double v : in) {
+        s0 += m[0] * v, s1 += m[1] * v, s2 += m[2] * v, s3 += m[3] * v;
+        m += stride;
+    }
+    out[0] = s0, out[1] = s1, out[2] = s2, out[3] = s3;
+}
+
+// out = matrix * in, the matrix held column by column with `rows` (a multiple of four) rows; each sum runs over the
+// columns in order.
+void multiply(const double* matrix, int rows, std::span<const double> in, double* out) {
+    int r = 0;
+    for (; r + 8 <= rows; r += 8) multiplyEightRows(matrix + r, rows, in, out + r);
+    for (; r < rows; r += 4) multiplyFourRows(matrix + r, rows, in, out + r);
 }
 
 double largestPoleRadius(const std::vector<FilterSection>& sections) {
@@ -60,8 +82,8 @@ double largestPoleRadius(const std::vector<FilterSection>& sections) {
 // Multiply-adds of one block of `periods` periods: the backward matrix, and the forward matrix run twice.
 double workPerBlock(int up, int down, int states, int periods) {
     const double inputs = static_cast<double>(periods) * down;
-    const double outputs = static_cast<double>(periods) * up;
-    return (outputs + states) * (2.0 * states + inputs) + 2.0 * states * (states + inputs);
+    const double backwardRows = paddedRows(periods * up + states);
+    return backwardRows * (2.0 * states + inputs) + 2.0 * paddedRows(states) * (states + inputs);
 }
 
 // Longer blocks share the state terms among more inputs, but the input-to-output term grows with the square of the
@@ -135,18 +157,21 @@ void ZeroPhaseResampler::simulateBlock(std::span<const double> s0, std::span<con
 void ZeroPhaseResampler::buildMaps() {
     const int n = m_states;
     const int columns = 2 * n + m_blockInputs;  // [backward state at end; forward state at start; inputs]
-    const int rows = m_blockOutputs + n;        // [outputs; backward state at start]
-    m_forward.assign(static_cast<std::size_t>(n) * (n + m_blockInputs), 0.0);
-    m_backward.assign(static_cast<std::size_t>(rows) * columns, 0.0);
-    std::vector<double> unit(columns), sEnd(n), result(rows);
+    m_forwardRows = paddedRows(n);
+    m_backwardRows = paddedRows(m_blockOutputs + n);  // [outputs; backward state at start]
+    m_forward.assign(static_cast<std::size_t>(m_forwardRows) * (n + m_blockInputs), 0.0);
+    m_backward.assign(static_cast<std::size_t>(m_backwardRows) * columns, 0.0);
+    std::vector<double> unit(columns), sEnd(n), result(m_blockOutputs + n);
     const std::span<const double> all(unit);
     for (int c = 0; c < columns; ++c) {
         std::fill(unit.begin(), unit.end(), 0.0);
         unit[c] = 1.0;
         simulateBlock(all.subspan(n, n), all.subspan(2 * n), all.first(n), sEnd,
                       std::span(result).first(m_blockOutputs), std::span(result).subspan(m_blockOutputs));
-        std::copy(result.begin(), result.end(), m_backward.begin() + static_cast<std::ptrdiff_t>(c) * rows);
-        if (c >= n) std::copy(sEnd.begin(), sEnd.end(), m_forward.begin() + static_cast<std::ptrdiff_t>(c - n) * n);
+        std::copy(result.begin(), result.end(), m_backward.begin() + static_cast<std::ptrdiff_t>(c) * m_backwardRows);
+        if (c >= n) {
+            std::copy(sEnd.begin(), sEnd.end(), m_forward.begin() + static_cast<std::ptrdiff_t>(c - n) * m_forwardRows);
+        }
     }
 }
 
@@ -169,7 +194,7 @@ bool ZeroPhaseResampler::run(std::span<const float> input, std::span<float> outp
     const std::span<double> forwardPart = std::span(vector).subspan(n);
     const std::span<double> forwardState = forwardPart.first(n);
     const std::span<double> blockInputs = forwardPart.subspan(n);
-    std::vector<double> result(static_cast<std::size_t>(m_blockOutputs + n));
+    std::vector<double> result(static_cast<std::size_t>(std::max(m_forwardRows, m_backwardRows)));
     std::vector<double> kept(static_cast<std::size_t>(segments * n));
     std::vector<double> segmentStates(static_cast<std::size_t>(kSegmentBlocks * n));
 
@@ -180,12 +205,12 @@ bool ZeroPhaseResampler::run(std::span<const float> input, std::span<float> outp
         }
     };
     const auto stepForward = [&] {
-        multiply(m_forward.data(), n, forwardPart, result.data());
+        multiply(m_forward.data(), m_forwardRows, forwardPart, result.data());
         std::copy(result.begin(), result.begin() + n, forwardState.begin());
     };
 
-    const double forwardWork = static_cast<double>(n) * (n + m_blockInputs);
-    const double backwardWork = forwardWork + static_cast<double>(m_blockOutputs + n) * (2 * n + m_blockInputs);
+    const double forwardWork = static_cast<double>(m_forwardRows) * (n + m_blockInputs);
+    const double backwardWork = forwardWork + static_cast<double>(m_backwardRows) * (2 * n + m_blockInputs);
     ProgressSteps steps(progress, static_cast<double>(blocks) * (forwardWork + backwardWork));
 
     for (long long block = 0; block < blocks; ++block) {
@@ -211,12 +236,12 @@ bool ZeroPhaseResampler::run(std::span<const float> input, std::span<float> outp
             const long long block = first + i;
             std::copy(segmentStates.begin() + i * n, segmentStates.begin() + (i + 1) * n, forwardState.begin());
             loadInputs(block);
-            multiply(m_backward.data(), m_blockOutputs + n, vector, result.data());
+            multiply(m_backward.data(), m_backwardRows, vector, result.data());
             const long long firstOutput = block * m_blockOutputs;
             for (int j = 0; j < m_blockOutputs && firstOutput + j < outputs; ++j) {
                 output[firstOutput + j] = static_cast<float>(result[j]);
             }
-            std::copy(result.begin() + m_blockOutputs, result.end(), backwardState.begin());
+            std::copy(result.begin() + m_blockOutputs, result.begin() + m_blockOutputs + n, backwardState.begin());
             if (!steps.advance(backwardWork)) return false;
         }
     }

@@ -35,11 +35,13 @@ private:
     int m_up;
     int m_down;
     std::vector<FilterSection> m_sections;
-    int m_states;                    // two per section
-    int m_periods;                   // a block spans this many times up * down working steps
-    int m_blockInputs;               // input values a block takes
-    int m_blockOutputs;              // output values a block gives
-    long long m_decaySteps;          // see decaySteps()
+    int m_states;            // two per section
+    int m_periods;           // a block spans this many times up * down working steps
+    int m_blockInputs;       // input values a block takes
+    int m_blockOutputs;      // output values a block gives
+    long long m_decaySteps;  // see decaySteps()
+    int m_forwardRows;       // rows of the matrices as stored: whole groups of four
+    int m_backwardRows;
     std::vector<double> m_forward;   // [state; inputs] -> state at the block's end, column by column
     std::vector<double> m_backward;  // [backward state at end; forward state at start; inputs] -> [outputs; backward
                                      // state at start], column by column
