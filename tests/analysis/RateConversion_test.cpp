@@ -85,6 +85,8 @@ Converted convert(const std::vector<std::int16_t>& input, int from, int to, Fake
     c.result = convertSampleRate(input.data(), static_cast<int>(input.size()), from, to, dir / "out.wav", 16, prompt,
                                  progress);
     c.written = std::filesystem::exists(dir / "out.wav");
+    // A file of no values is its 46-byte header alone.
+    if (c.written && std::filesystem::file_size(dir / "out.wav") == 46) return c;
     if (c.written) {
         const WaveLoadResult loaded = WaveLoad(dir / "out.wav");
         EXPECT_EQ(loaded.code, kWaveOk);
