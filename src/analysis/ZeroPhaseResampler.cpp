@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "store/Assert.h"
@@ -175,75 +176,113 @@ void ZeroPhaseResampler::buildMaps() {
     }
 }
 
+// One run over a signal: the buffers, and the two sweeps.
+class ZeroPhaseResampler::Sweeps {
+public:
+    Sweeps(const ZeroPhaseResampler& stage, std::span<const float> input, std::span<float> output,
+           const ConversionProgress& progress)
+        : m_stage(stage), m_input(input), m_output(output), m_n(stage.m_states) {
+        const long long period = static_cast<long long>(stage.m_periods) * stage.m_up * stage.m_down;
+        // Work on until the forward pass has rung out after both the last input and the last output wanted; the
+        // backward pass starts there from rest.
+        const long long lastStep = std::max(static_cast<long long>(input.size()) * stage.m_up,
+                                            static_cast<long long>(output.size()) * stage.m_down) +
+                                   stage.m_decaySteps;
+        m_blocks = (lastStep + period - 1) / period;
+        m_segments = (m_blocks + kSegmentBlocks - 1) / kSegmentBlocks;
+        m_vector.assign(static_cast<std::size_t>(2 * m_n + stage.m_blockInputs), 0.0);
+        m_result.resize(static_cast<std::size_t>(std::max(stage.m_forwardRows, stage.m_backwardRows)));
+        m_kept.resize(static_cast<std::size_t>(m_segments * m_n));
+        m_segmentStates.resize(static_cast<std::size_t>(kSegmentBlocks * m_n));
+        m_forwardWork = static_cast<double>(stage.m_forwardRows) * (m_n + stage.m_blockInputs);
+        m_backwardWork = m_forwardWork + static_cast<double>(stage.m_backwardRows) * (2 * m_n + stage.m_blockInputs);
+        m_steps.emplace(progress, static_cast<double>(m_blocks) * (m_forwardWork + m_backwardWork));
+    }
+
+    // Runs the forward matrix over every block, keeping the state at the start of each segment.
+    bool forward() {
+        for (long long block = 0; block < m_blocks; ++block) {
+            if (block % kSegmentBlocks == 0) {
+                std::copy(forwardState().begin(), forwardState().end(),
+                          m_kept.begin() + (block / kSegmentBlocks) * m_n);
+            }
+            stepForward(block);
+            if (!m_steps->advance(m_forwardWork)) return false;
+        }
+        return true;
+    }
+
+    // Goes from the last segment to the first: recomputes the segment's forward states from the kept one, then
+    // runs the backward matrix over its blocks from the last to the first.
+    bool backward() {
+        std::fill(m_vector.begin(), m_vector.begin() + m_n, 0.0);
+        for (long long segment = m_segments - 1; segment >= 0; --segment) {
+            const long long first = segment * kSegmentBlocks;
+            const long long count = std::min(kSegmentBlocks, m_blocks - first);
+            std::copy(m_kept.begin() + segment * m_n, m_kept.begin() + (segment + 1) * m_n, forwardState().begin());
+            for (long long i = 0; i < count; ++i) {
+                std::copy(forwardState().begin(), forwardState().end(), m_segmentStates.begin() + i * m_n);
+                stepForward(first + i);
+            }
+            for (long long i = count - 1; i >= 0; --i) {
+                std::copy(m_segmentStates.begin() + i * m_n, m_segmentStates.begin() + (i + 1) * m_n,
+                          forwardState().begin());
+                stepBackward(first + i);
+                if (!m_steps->advance(m_backwardWork)) return false;
+            }
+        }
+        return true;
+    }
+
+private:
+    // The vector the matrices act on is [backward state; forward state; inputs]; the forward matrix takes the last
+    // two parts.
+    std::span<double> forwardPart() { return std::span(m_vector).subspan(m_n); }
+    std::span<double> forwardState() { return forwardPart().first(m_n); }
+
+    void loadInputs(long long block) {
+        const int count = m_stage.m_blockInputs;
+        const long long first = block * count;
+        const std::span<double> inputs = forwardPart().subspan(m_n);
+        for (int j = 0; j < count; ++j) {
+            inputs[j] = first + j < static_cast<long long>(m_input.size()) ? m_input[first + j] : 0.0;
+        }
+    }
+
+    void stepForward(long long block) {
+        loadInputs(block);
+        multiply(m_stage.m_forward.data(), m_stage.m_forwardRows, forwardPart(), m_result.data());
+        std::copy(m_result.begin(), m_result.begin() + m_n, forwardState().begin());
+    }
+
+    void stepBackward(long long block) {
+        loadInputs(block);
+        multiply(m_stage.m_backward.data(), m_stage.m_backwardRows, m_vector, m_result.data());
+        const int count = m_stage.m_blockOutputs;
+        const long long first = block * count;
+        for (int j = 0; j < count && first + j < static_cast<long long>(m_output.size()); ++j) {
+            m_output[first + j] = static_cast<float>(m_result[j]);
+        }
+        std::copy(m_result.begin() + count, m_result.begin() + count + m_n, m_vector.begin());
+    }
+
+    const ZeroPhaseResampler& m_stage;
+    std::span<const float> m_input;
+    std::span<float> m_output;
+    int m_n;  // state values of the filter
+    long long m_blocks = 0;
+    long long m_segments = 0;
+    std::vector<double> m_vector;
+    std::vector<double> m_result;
+    std::vector<double> m_kept;           // forward state at the start of every segment
+    std::vector<double> m_segmentStates;  // forward state at the start of every block of one segment
+    double m_forwardWork = 0.0;
+    double m_backwardWork = 0.0;
+    std::optional<ProgressSteps> m_steps;
+};
+
 bool ZeroPhaseResampler::run(std::span<const float> input, std::span<float> output,
                              const ConversionProgress& progress) const {
-    const int n = m_states;
-    const long long inputs = static_cast<long long>(input.size());
-    const long long outputs = static_cast<long long>(output.size());
-    const long long period = static_cast<long long>(m_periods) * m_up * m_down;
-    // Work on until the forward pass has rung out after both the last input and the last output wanted; the
-    // backward pass starts there from rest.
-    const long long lastStep = std::max(inputs * m_up, outputs * m_down) + m_decaySteps;
-    const long long blocks = (lastStep + period - 1) / period;
-    const long long segments = (blocks + kSegmentBlocks - 1) / kSegmentBlocks;
-
-    // The vectors the matrices act on: [backward state; forward state; inputs], the forward matrix using the last
-    // two parts.
-    std::vector<double> vector(static_cast<std::size_t>(2 * n + m_blockInputs), 0.0);
-    const std::span<double> backwardState = std::span(vector).first(n);
-    const std::span<double> forwardPart = std::span(vector).subspan(n);
-    const std::span<double> forwardState = forwardPart.first(n);
-    const std::span<double> blockInputs = forwardPart.subspan(n);
-    std::vector<double> result(static_cast<std::size_t>(std::max(m_forwardRows, m_backwardRows)));
-    std::vector<double> kept(static_cast<std::size_t>(segments * n));
-    std::vector<double> segmentStates(static_cast<std::size_t>(kSegmentBlocks * n));
-
-    const auto loadInputs = [&](long long block) {
-        const long long first = block * m_blockInputs;
-        for (int j = 0; j < m_blockInputs; ++j) {
-            blockInputs[j] = first + j < inputs ? static_cast<double>(input[first + j]) : 0.0;
-        }
-    };
-    const auto stepForward = [&] {
-        multiply(m_forward.data(), m_forwardRows, forwardPart, result.data());
-        std::copy(result.begin(), result.begin() + n, forwardState.begin());
-    };
-
-    const double forwardWork = static_cast<double>(m_forwardRows) * (n + m_blockInputs);
-    const double backwardWork = forwardWork + static_cast<double>(m_backwardRows) * (2 * n + m_blockInputs);
-    ProgressSteps steps(progress, static_cast<double>(blocks) * (forwardWork + backwardWork));
-
-    for (long long block = 0; block < blocks; ++block) {
-        if (block % kSegmentBlocks == 0) {
-            std::copy(forwardState.begin(), forwardState.end(), kept.begin() + (block / kSegmentBlocks) * n);
-        }
-        loadInputs(block);
-        stepForward();
-        if (!steps.advance(forwardWork)) return false;
-    }
-
-    std::fill(backwardState.begin(), backwardState.end(), 0.0);
-    for (long long segment = segments - 1; segment >= 0; --segment) {
-        const long long first = segment * kSegmentBlocks;
-        const long long count = std::min(kSegmentBlocks, blocks - first);
-        std::copy(kept.begin() + segment * n, kept.begin() + (segment + 1) * n, forwardState.begin());
-        for (long long i = 0; i < count; ++i) {
-            std::copy(forwardState.begin(), forwardState.end(), segmentStates.begin() + i * n);
-            loadInputs(first + i);
-            stepForward();
-        }
-        for (long long i = count - 1; i >= 0; --i) {
-            const long long block = first + i;
-            std::copy(segmentStates.begin() + i * n, segmentStates.begin() + (i + 1) * n, forwardState.begin());
-            loadInputs(block);
-            multiply(m_backward.data(), m_backwardRows, vector, result.data());
-            const long long firstOutput = block * m_blockOutputs;
-            for (int j = 0; j < m_blockOutputs && firstOutput + j < outputs; ++j) {
-                output[firstOutput + j] = static_cast<float>(result[j]);
-            }
-            std::copy(result.begin() + m_blockOutputs, result.begin() + m_blockOutputs + n, backwardState.begin());
-            if (!steps.advance(backwardWork)) return false;
-        }
-    }
-    return true;
+    Sweeps sweeps(*this, input, output, progress);
+    return sweeps.forward() && sweeps.backward();
 }

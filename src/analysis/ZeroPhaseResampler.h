@@ -28,6 +28,7 @@ public:
     static double workPerInput(int up, int down, int stateSize);
 
 private:
+    class Sweeps;
     void buildMaps();
     void simulateBlock(std::span<const double> s0, std::span<const double> x, std::span<const double> qEnd,
                        std::span<double> sEnd, std::span<double> y, std::span<double> qStart) const;

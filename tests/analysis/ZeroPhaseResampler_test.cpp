@@ -70,27 +70,3 @@ TEST(ZeroPhaseResampler, GivesWhatThePlainForwardBackwardPassGives) {
         EXPECT_LT(worst, 0.01);  // float output of values up to about 20000
     }
 }
-
-TEST(ZeroPhaseResampler, ReportsProgressInHundredthsAndStopsWhenAsked) {
-    const ZeroPhaseResampler stage(3, 4, designStageLowPass(0.5 / 4).sections);
-    const std::vector<float> input = noise(200000);
-    std::vector<float> output(150000);
-    std::vector<double> seen;
-    ASSERT_TRUE(stage.run(input, output, [&](double f) {
-        seen.push_back(f);
-        return true;
-    }));
-    ASSERT_GE(seen.size(), 90u);
-    EXPECT_LE(seen.size(), 101u);
-    EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
-    EXPECT_GT(seen.front(), 0.0);
-    EXPECT_LE(seen.front(), 0.02);
-    EXPECT_GT(seen.back(), 0.99);
-
-    int calls = 0;
-    EXPECT_FALSE(stage.run(input, output, [&](double f) {
-        ++calls;
-        return f < 0.3;
-    }));
-    EXPECT_LE(calls, 32);
-}
