@@ -28,6 +28,12 @@ std::optional<fs::path> matchInFolder(const fs::path& folder, const fs::path& na
     return fs::path(*best);
 }
 
+std::string folded(std::string_view name) {
+    std::string out(name);
+    for (char& c : out) c = foldAsciiCase(c);
+    return out;
+}
+
 bool isSearchablePart(const fs::path& part) {
     return !part.empty() && part != "." && part != ".." && !part.has_root_name() && !part.has_root_directory();
 }
@@ -62,4 +68,21 @@ std::optional<fs::path> findExistingFile(const fs::path& path) {
     std::error_code error;
     if (!fs::is_regular_file(found, error)) return std::nullopt;
     return found;
+}
+
+FolderListing::FolderListing(const fs::path& folder) : m_folder(findFileIgnoringCase(folder)) {
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(m_folder, error)) {
+        if (!entry.is_regular_file(error)) continue;
+        std::string name = entry.path().filename().string();
+        m_namesByFolded[folded(name)].insert(std::move(name));
+    }
+}
+
+std::optional<fs::path> FolderListing::findFile(std::string_view name) const {
+    const auto found = m_namesByFolded.find(folded(name));
+    if (found == m_namesByFolded.end()) return std::nullopt;
+    const std::set<std::string>& spellings = found->second;
+    const auto exact = spellings.find(std::string(name));
+    return m_folder / (exact != spellings.end() ? *exact : *spellings.begin());
 }

@@ -16,13 +16,19 @@ namespace {
 // More free numbers in a row than this end the search for the highest number in use.
 constexpr int kLongestFreeRun = 15;
 
-bool exists(const ClientFolder& folder, std::string_view prefix, int number, std::string_view extension) {
-    return findExistingFile(recordingFilePath(folder, prefix, number, extension)).has_value();
+std::string fileName(std::string_view prefix, int number, std::string_view extension) {
+    const std::string stem(prefix);
+    const std::string suffix(extension);
+    return formatText("%s%03d.%s", stem.c_str(), number, suffix.c_str());
 }
 
-std::optional<fs::path> find(const ClientFolder& folder, std::string_view prefix, int number,
+std::optional<fs::path> find(const FolderListing& files, std::string_view prefix, int number,
                              std::string_view extension) {
-    return findExistingFile(recordingFilePath(folder, prefix, number, extension));
+    return files.findFile(fileName(prefix, number, extension));
+}
+
+bool exists(const FolderListing& files, std::string_view prefix, int number, std::string_view extension) {
+    return find(files, prefix, number, extension).has_value();
 }
 
 FileKind kindOf(bool wvSound, bool backup, bool dateFile) {
@@ -41,9 +47,7 @@ fs::path ClientFolder::path() const {
 
 fs::path recordingFilePath(const ClientFolder& folder, std::string_view prefix, int number,
                            std::string_view extension) {
-    const std::string stem(prefix);
-    const std::string suffix(extension);
-    return folder.path() / formatText("%s%03d.%s", stem.c_str(), number, suffix.c_str());
+    return folder.path() / fileName(prefix, number, extension);
 }
 
 fs::path RecordingStemPath(const ClientFolder& folder, int number, std::uint32_t rate) {
@@ -54,11 +58,12 @@ fs::path ScratchRecordingPath(const fs::path& dataRoot) { return dataRoot / kScr
 
 int NextRecordingNumber(const ClientFolder& folder, Prompt& prompt) {
     if (folder.code == kNoClient) return -1;
+    const FolderListing files(folder.path());
     int highest = 0;
     int freeRun = 0;
     for (int number = 1; number <= kLastRecordingNumber; ++number) {
-        const bool used = exists(folder, "wv", number, "wav") || exists(folder, "wv", number, "bkp") ||
-                          exists(folder, "qv", number, "wav") || exists(folder, "qv", number, "bkp");
+        const bool used = exists(files, "wv", number, "wav") || exists(files, "wv", number, "bkp") ||
+                          exists(files, "qv", number, "wav") || exists(files, "qv", number, "bkp");
         if (!used) {
             if (++freeRun > kLongestFreeRun) break;
         } else {
@@ -90,13 +95,17 @@ int NewRecordingPath(LoadedRecording& recording, std::string& title, const Clien
 }
 
 RecordingProbe ProbeRecording(const ClientFolder& folder, int number, Prompt& prompt) {
+    return probeRecording(FolderListing(folder.path()), number, prompt);
+}
+
+RecordingProbe probeRecording(const FolderListing& files, int number, Prompt& prompt) {
     // The probes run in this order; the qv date file, looked at only when there is a qv sound, replaces the wv one.
-    const auto wvSound = find(folder, "wv", number, "wav");
-    const auto wvBackup = find(folder, "wv", number, "bkp");
-    auto dateFile = find(folder, "wv", number, "ddt");
-    const auto qvSound = find(folder, "qv", number, "wav");
-    const auto qvBackup = wvBackup ? std::nullopt : find(folder, "qv", number, "bkp");
-    if (qvSound) dateFile = find(folder, "qv", number, "ddt");
+    const auto wvSound = find(files, "wv", number, "wav");
+    const auto wvBackup = find(files, "wv", number, "bkp");
+    auto dateFile = find(files, "wv", number, "ddt");
+    const auto qvSound = find(files, "qv", number, "wav");
+    const auto qvBackup = wvBackup ? std::nullopt : find(files, "qv", number, "bkp");
+    if (qvSound) dateFile = find(files, "qv", number, "ddt");
     const auto& backup = wvBackup ? wvBackup : qvBackup;
 
     RecordingProbe probe;
@@ -129,8 +138,9 @@ std::string ListRowText(const CalendarDate& date, int number, int languageId) {
 
 std::vector<RecordingListRow> ListRecordings(const ClientFolder& folder, int languageId, Prompt& prompt) {
     std::vector<RecordingListRow> rows;
+    const FolderListing files(folder.path());
     for (int number = 1; number <= kLastListedNumber; ++number) {
-        const RecordingProbe probe = ProbeRecording(folder, number, prompt);
+        const RecordingProbe probe = probeRecording(files, number, prompt);
         if (!probe.exists) continue;
         rows.push_back({number, probe.kind, dateSortKey(probe.date), ListRowText(probe.date, number, languageId)});
     }

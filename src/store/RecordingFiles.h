@@ -14,6 +14,7 @@
 #include "FileTimes.h"
 
 struct Prompt;
+class FolderListing;
 class LoadedRecording;
 
 inline constexpr int kNoClient = -1;
@@ -80,6 +81,8 @@ struct RecordingProbe {
 // The date is the creation time of the sound (the qv one when there is a qv sound), replaced by the time in the
 // date file that belongs to that sound when it holds more than 5 characters; a backup is dated by its .bkp.
 RecordingProbe ProbeRecording(const ClientFolder& folder, int number, Prompt& prompt);
+// The same, from a listing of the folder already read.
+RecordingProbe probeRecording(const FolderListing& files, int number, Prompt& prompt);
 
 // The list's row text "%02d/%02d/%04d File %d" in the date order of language `languageId`: day, month, year for
 // Spanish (1) and Portuguese (3), year, month, day for Korean (2), month, day, year for English (0) and any other.
