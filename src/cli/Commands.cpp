@@ -3,10 +3,20 @@
 #include <array>
 
 int runInfo(CommandArgs args);
+int runFormants(CommandArgs args);
+int runSpectrum(CommandArgs args);
+int runSpectrogram(CommandArgs args);
 
 std::span<const Command> allCommands() {
     static constexpr std::array kCommands{
         Command{"info", "info FILE.wav            format, length and whether the file opens as-is", runInfo},
+        Command{"formants", "formants FILE.wav [--threads N]   F1 to F4 every 10 ms", runFormants},
+        Command{"spectrum", "spectrum FILE.wav [--fft 256|512|1024] [--from S] [--to S] [--no-window]   power spectrum",
+                runSpectrum},
+        Command{"spectrogram",
+                "spectrogram FILE.wav --out PICTURE.png [--width 671] [--height 300] [--band HZ] [--limit HZ] "
+                "[--range 70] [--scheme 0|1|2] [--from S] [--to S]",
+                runSpectrogram},
     };
     return kCommands;
 }
