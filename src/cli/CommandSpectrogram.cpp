@@ -21,6 +21,7 @@ constexpr std::string_view kUsage =
     "usage: sonalys-analyze spectrogram FILE.wav --out PICTURE.png [--width 671] [--height 300]\n"
     "       [--band 10|40|80|150|300|400] [--limit HZ] [--range 70] [--scheme 0|1|2] [--from S] [--to S]\n";
 
+#ifdef SONALYS_WITH_QT
 // The upper frequency the panel selects first for a rate: the third entry of its list, or the whole band at a
 // rate the list does not know.
 int defaultLimit(int rate) {
@@ -71,7 +72,6 @@ bool readSettings(Args& args, int rate, PictureSettings& s) {
     return true;
 }
 
-#ifdef SONALYS_WITH_QT
 // Paints each column into the picture through the palette, top row first.
 class ImagePainter : public ColumnPainter {
 public:
