@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <system_error>
 #include <thread>
 
 #include "analysis/FormantSignal.h"
@@ -95,8 +96,14 @@ void FormantTracker::analyseFrames(std::vector<PoleFrame>& frames, std::span<con
         for (std::size_t t = 0; t < threads; ++t) {
             const std::size_t begin = std::min(frames.size(), t * chunk);
             const std::size_t end = std::min(frames.size(), begin + chunk);
-            workers.emplace_back(
-                [&, begin, end] { analyseRange(frames, signal, window, begin, end, runStart, stopped, lastRoots); });
+            try {
+                workers.emplace_back([&, begin, end] {
+                    analyseRange(frames, signal, window, begin, end, runStart, stopped, lastRoots);
+                });
+            } catch (const std::system_error&) {
+                // No thread to be had: this part runs here instead, to the same result.
+                analyseRange(frames, signal, window, begin, end, runStart, stopped, lastRoots);
+            }
         }
     }
 

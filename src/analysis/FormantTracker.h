@@ -42,7 +42,7 @@ class FormantTracker {
 public:
     explicit FormantTracker(Prompt& prompt);
 
-    // How many threads analyse frames side by side (at least 1); the result does not depend on it.
+    // How many threads analyse frames side by side: 1 unless set, at least 1. The result does not depend on it.
     void setThreadCount(int threads) noexcept { m_threads = threads < 1 ? 1 : threads; }
     int threadCount() const noexcept { return m_threads; }
 

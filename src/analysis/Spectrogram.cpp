@@ -60,7 +60,7 @@ void Spectrogram::pushSamples(std::span<const std::int16_t> src) {
 std::span<const std::uint8_t> Spectrogram::computeLiveColumn(int rows) {
     rows = std::clamp(rows, 0, kMaxSpectrogramRows);
     const int fftLength = m_fftSize;
-    const int windowLength = analysisWindowLength(m_bandwidth, m_sampleRate, std::min(fftLength, m_ringSize));
+    const int windowLength = analysisWindowLength(m_bandwidth, m_sampleRate, fftLength);
     computeColumn(m_ring.data(), windowLength, fftLength, rows, true);
     return {m_column.data(), static_cast<std::size_t>(rows)};
 }
@@ -70,8 +70,10 @@ void Spectrogram::computeColumns(int width, int height, std::span<const std::int
     const int rows = std::clamp(height, 0, kMaxSpectrogramRows);
     const int fftLength = spectrogramFftLength(rate, height, static_cast<int>(m_zoom));
     const int windowLength = analysisWindowLength(m_bandwidth, rate, fftLength);
+    // The span in samples, kept small enough that (c + 1) * n cannot overflow.
     const double span = (t1 - t0) * rate;
-    const std::int64_t n = span > 0.0 && span < 9.0e18 ? static_cast<std::int64_t>(span) : 0;
+    const double largest = 9.0e18 / (std::max(width, 1) + 1.0);
+    const std::int64_t n = span > 0.0 ? static_cast<std::int64_t>(std::min(span, largest)) : 0;
     if (n < 2 || samples.empty()) {
         for (int c = 0; c < width; ++c) painter.blankColumn(c);
         return;
