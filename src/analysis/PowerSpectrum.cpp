@@ -5,7 +5,17 @@
 
 #include "store/Assert.h"
 
-PowerSpectrum::PowerSpectrum() { setFftSize(512); }
+PowerSpectrum::PowerSpectrum() {
+    const double twoPi = 8.0 * std::atan(1.0);
+    int size = 256;
+    for (Size& s : m_sizes) {
+        s.fft = std::make_unique<RealFft>(size);
+        s.window.resize(static_cast<std::size_t>(size));
+        for (int i = 0; i < size; ++i) s.window[i] = static_cast<float>(0.54 - 0.46 * std::cos(i * twoPi / (size - 1)));
+        size *= 2;
+    }
+    setFftSize(512);
+}
 
 void PowerSpectrum::setMaxFrequency(float hz) {
     SONALYS_ASSERT(hz > 0.0f);
@@ -20,12 +30,9 @@ void PowerSpectrum::setSampleRate(int rate) {
 }
 
 void PowerSpectrum::setFftSize(int size) {
-    SONALYS_ASSERT(RealFft::isValidSize(size) && size / 2 <= kMaxSpectrumBins);
+    SONALYS_ASSERT(size == 256 || size == 512 || size == 1024);
     m_fftSize = size;
-    m_fft = std::make_unique<RealFft>(size);
-    const double twoPi = 8.0 * std::atan(1.0);
-    m_window.resize(static_cast<std::size_t>(size));
-    for (int i = 0; i < size; ++i) m_window[i] = static_cast<float>(0.54 - 0.46 * std::cos(i * twoPi / (size - 1)));
+    m_sizeIndex = size == 256 ? 0 : size == 512 ? 1 : 2;
 }
 
 void PowerSpectrum::resetAverage() {
@@ -43,11 +50,13 @@ void PowerSpectrum::computeSpectrum(std::span<const std::int16_t> samples) {
     const std::size_t bins = binCount();
     std::fill_n(m_current.begin(), bins, 0.0f);
 
-    const std::span<float> frame = m_fft->input();
+    Size& transform = m_sizes[m_sizeIndex];
+    const std::span<float> frame = transform.fft->input();
+    const std::vector<float>& window = transform.window;
     for (std::int64_t f = 0; f < nFrames; ++f) {
         const std::int16_t* s = samples.data() + f * hop;
-        for (int i = 0; i < size; ++i) frame[i] = m_useWindow ? s[i] * m_window[i] : static_cast<float>(s[i]);
-        const std::span<const std::complex<float>> out = m_fft->transform();
+        for (int i = 0; i < size; ++i) frame[i] = m_useWindow ? s[i] * window[i] : static_cast<float>(s[i]);
+        const std::span<const std::complex<float>> out = transform.fft->transform();
         for (std::size_t k = 0; k < bins; ++k)
             m_current[k] += out[k].real() * out[k].real() + out[k].imag() * out[k].imag();
     }

@@ -18,7 +18,7 @@ public:
 
     void setMaxFrequency(float hz);
     void setSampleRate(int rate);  // keeps the frequency ratio
-    void setFftSize(int size);     // the panel offers 256, 512 and 1024
+    void setFftSize(int size);     // 256, 512 or 1024, the sizes the panel offers
     void setUseWindow(bool on) noexcept { m_useWindow = on; }
     void setValid(bool valid) noexcept { m_valid = valid; }
 
@@ -50,6 +50,11 @@ private:
     int m_sampleRate = 11025;
     float m_zoom = 1.0f;
 
-    std::unique_ptr<RealFft> m_fft;
-    std::vector<float> m_window;
+    // One planned transform and one Hamming window per size, made at construction.
+    struct Size {
+        std::unique_ptr<RealFft> fft;
+        std::vector<float> window;
+    };
+    std::array<Size, 3> m_sizes;
+    std::size_t m_sizeIndex = 1;
 };

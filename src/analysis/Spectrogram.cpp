@@ -25,7 +25,14 @@ int analysisWindowLength(float bandwidth, int rate, int fftLength) {
     return length > 0.0 ? static_cast<int>(length) : 0;
 }
 
-Spectrogram::Spectrogram() : m_ring(static_cast<std::size_t>(m_ringSize) + 1, 0) { setMaxFrequency(11025); }
+Spectrogram::Spectrogram() : m_ring(static_cast<std::size_t>(m_ringSize) + 1, 0) {
+    // Every transform length a column can ask for is planned now, so that no column allocates.
+    for (int length = 1024; length <= kMaxSpectrogramFft; length *= 2)
+        m_ffts[static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(length)))] =
+            std::make_unique<RealFft>(length);
+    m_window.reserve(kMaxSpectrogramFft);
+    setMaxFrequency(11025);
+}
 
 void Spectrogram::setBandwidth(int hz) { m_bandwidth = static_cast<float>(hz); }
 
@@ -106,10 +113,8 @@ const std::vector<double>& Spectrogram::hammingWindow(int length) {
 }
 
 RealFft& Spectrogram::fftOfLength(int length) {
-    SONALYS_ASSERT(RealFft::isValidSize(length) && length <= kMaxSpectrogramFft);
-    auto& fft = m_ffts[static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(length)))];
-    if (!fft) fft = std::make_unique<RealFft>(length);
-    return *fft;
+    SONALYS_ASSERT(RealFft::isValidSize(length) && 1024 <= length && length <= kMaxSpectrogramFft);
+    return *m_ffts[static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(length)))];
 }
 
 void Spectrogram::computeColumn(const std::int16_t* samples, int windowLength, int fftLength, int rows, bool live) {
