@@ -170,6 +170,22 @@ TEST(F0Process, RecordsComeOutOldestFirst) {
         EXPECT_GT(f0GetOutput(t.get(), i).rms, f0GetOutput(t.get(), i - 1).rms);
 }
 
+TEST(F0Process, TheRingGrowsSixTimesAtMostWhenConvergenceIsLate) {
+    auto t = systemTracker(22050);
+    CerrCapture capture;
+    for (int i = 1; i <= 6; ++i) {
+        ASSERT_EQ(f0ExtendFrames(t.get()), 1);
+        EXPECT_EQ(static_cast<int>(t->frames.size()), (i + 1) * t->frameAlloc);
+    }
+    EXPECT_EQ(f0ExtendFrames(t.get()), 0);
+    EXPECT_EQ(capture.text(),
+              "F0: too many requests (6) for space allocation\n There may be a problem in finding converged path\n");
+    // The new frames lie between the newest frame and head, in one ring.
+    int count = 1;
+    for (F0Frame* f = t->head->next; f != t->head; f = f->next) ++count;
+    EXPECT_EQ(count, 7 * t->frameAlloc);
+}
+
 // --- The path search ---
 
 namespace {
