@@ -656,10 +656,14 @@ std::vector<F0Chunk> f0CurveChunks(int nSamples, int sampRate) {
 namespace {
 
 // One chunk's values; a chunk the tracker cannot run on reads as voiceless, so that later chunks keep their time.
-std::vector<float> trackChunk(const float* data, const F0Chunk& chunk, int sampRate, const F0CurveSettings& s) {
+// The chunk's samples become floats, value for value, in `floats`, which each thread reuses from chunk to chunk.
+std::vector<float> trackChunk(const short* samples, const F0Chunk& chunk, int sampRate, const F0CurveSettings& s,
+                              std::vector<float>& floats) {
+    floats.assign(samples + chunk.start, samples + chunk.start + chunk.length);
+    floats.push_back(0.0f);
     std::vector<float> out;
     int nOut = 0;
-    if (!f0TrackBuffer(data + chunk.start, chunk.length, sampRate, s.minF0, s.maxF0, s.frameRate, out, nOut)) {
+    if (!f0TrackBuffer(floats.data(), chunk.length, sampRate, s.minF0, s.maxF0, s.frameRate, out, nOut)) {
         out.assign(static_cast<std::size_t>(std::max(0, f0TrackLength(chunk.length, sampRate, s.frameRate))), 0.0f);
         return out;
     }
@@ -667,12 +671,19 @@ std::vector<float> trackChunk(const float* data, const F0Chunk& chunk, int sampR
     return out;
 }
 
-// Runs work(i) for every i below count on up to `threads` threads, the calling thread included.
+// Runs work(i, store) for every i below count on up to `threads` threads, the calling thread included; each thread
+// has a working store of its own. Returns false if memory ran out on any of them.
 template <typename Work>
-void runChunks(std::size_t count, int threads, Work work) {
+bool runChunks(std::size_t count, int threads, Work work) {
     std::atomic<std::size_t> next{0};
+    std::atomic<bool> failed{false};
     const auto worker = [&] {
-        for (std::size_t i = next++; i < count; i = next++) work(i);
+        try {
+            std::vector<float> store;
+            for (std::size_t i = next++; i < count; i = next++) work(i, store);
+        } catch (const std::bad_alloc&) {
+            failed = true;
+        }
     };
     std::vector<std::thread> pool;
     const std::size_t extra = std::min(count, static_cast<std::size_t>(std::max(1, threads))) - 1;
@@ -685,6 +696,7 @@ void runChunks(std::size_t count, int threads, Work work) {
     }
     worker();
     for (std::thread& thread : pool) thread.join();
+    return !failed;
 }
 
 // Below 4000 Hz there would be no decimation filter and f0Init would fail its assertion; a file of such a rate,
@@ -704,12 +716,12 @@ void computeF0Curve(F0Curve& curve, const short* samples, int nSamples, int samp
             for (std::size_t i = 0; i < chunks.size(); ++i)
                 parts[i].assign(std::max(0, f0TrackLength(chunks[i].length, sampRate, settings.frameRate)), 0.0f);
         } else {
-            std::vector<float> data(static_cast<std::size_t>(nSamples) + 1, 0.0f);
-            std::copy(samples, samples + nSamples, data.begin());
             const int threads =
                 settings.threads > 0 ? settings.threads : static_cast<int>(std::thread::hardware_concurrency());
-            runChunks(chunks.size(), threads,
-                      [&](std::size_t i) { parts[i] = trackChunk(data.data(), chunks[i], sampRate, settings); });
+            const bool done = runChunks(chunks.size(), threads, [&](std::size_t i, std::vector<float>& store) {
+                parts[i] = trackChunk(samples, chunks[i], sampRate, settings, store);
+            });
+            if (!done) return;
         }
         std::size_t total = 0;
         for (const auto& part : parts) total += part.size();
