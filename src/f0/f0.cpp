@@ -543,13 +543,6 @@ std::string paramText(std::string_view name, double value) {
     return std::string(name) + "=" + std::string(digits, result.ptr);
 }
 
-// The frames' windows must fit in a buffer; the tracker's checks let through frame steps and F0 ranges with which
-// the stationarity window of the last frame would run past the buffer, and wind_dur values that give an empty
-// correlation window.
-bool windowsFit(const F0Obj& t) {
-    return t.windowSize >= 1 && t.framesPerBuff >= 1 && t.statWindow <= t.frameStep + t.tailSize;
-}
-
 // Reads the records of the last release into `out` while there is room.
 void collectOutput(const F0Obj& t, std::vector<float>& out, int nOut, int& count, float& last) {
     for (int i = 0; i < f0NumOutput(&t); ++i) {
@@ -591,6 +584,10 @@ bool trackBlocks(F0Obj& t, const float* data, int nData, std::vector<float>& out
 
 }  // namespace
 
+bool f0WindowsFit(const F0Obj& t) {
+    return t.windowSize >= 1 && t.framesPerBuff >= 1 && t.statWindow <= t.frameStep + t.tailSize;
+}
+
 std::unique_ptr<F0Obj> f0CreateTracker(int sampFreq, int minF0, int maxF0, int frameRate) {
     std::unique_ptr<F0Obj> tracker = f0Create();
     if (!tracker) return nullptr;
@@ -603,7 +600,7 @@ std::unique_ptr<F0Obj> f0CreateTracker(int sampFreq, int minF0, int maxF0, int f
     int buffSize = 0;
     int buffStep = 0;
     if (!f0Init(tracker.get(), sampFreq, &buffSize, &buffStep)) return nullptr;
-    if (!windowsFit(*tracker)) {
+    if (!f0WindowsFit(*tracker)) {
         f0Message(kWindowsDoNotFit);
         return nullptr;
     }

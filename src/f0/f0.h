@@ -207,6 +207,11 @@ float f0RefineLag(const float* correl, int lag, int firstLag, int lastLag);
 
 // --- The layers that give the tracker this system's settings ---
 
+// Whether an initialised tracker's analysis windows fit in its buffers. The tracker's own checks let through frame
+// steps and F0 ranges with which the stationarity window of a buffer's last frame would run past the buffer (its
+// assertion), wind_dur values that leave no correlation window, and ranges that leave no frame in a buffer.
+bool f0WindowsFit(const F0Obj& t);
+
 // A tracker set up as f0TrackBuffer sets one up (the frame step passing through six decimals of text) and
 // initialised, or null, after the tracker's messages, if it cannot run so. Also null when the analysis windows do
 // not fit in a buffer, which the tracker's own checks let through.
