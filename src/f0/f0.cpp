@@ -563,8 +563,9 @@ bool trackBlocks(F0Obj& t, const float* data, int nData, std::vector<float>& out
     std::vector<float> padded;
     for (int b = 0; b < nBlocks; ++b) {
         const float* block = data + static_cast<std::ptrdiff_t>(b) * buffStep;
-        // A recording shorter than a full buffer but longer than its step is still handed over as a full buffer;
-        // the missing samples are zeros, so nothing past the recording is read.
+        // A recording shorter than a full buffer but longer than its step is still handed over as a full buffer.
+        // The tracker would read past the recording's end, so it gets a copy padded with zeros instead: a short
+        // recording must never end the program or read what is not its own.
         if (static_cast<long long>(b) * buffStep + buffSize > nData) {
             padded.assign(static_cast<std::size_t>(buffSize), 0.0f);
             std::copy(block, data + nData, padded.begin());
@@ -573,7 +574,9 @@ bool trackBlocks(F0Obj& t, const float* data, int nData, std::vector<float>& out
         if (!f0Process(&t, block, buffSize)) return false;
         collectOutput(t, out, nOut, count, last);
     }
-    // The last call gets what remains; when nothing remains it is not made, since a buffer must hold samples.
+    // The last call gets what remains. When nothing remains it is not made: the tracker requires samples in every
+    // buffer and would end the program, and a short recording must simply give a curve (voiceless if no frame
+    // resulted).
     if (rest > 0) {
         if (!f0Process(&t, data + static_cast<std::ptrdiff_t>(nBlocks) * buffStep, rest)) return false;
         collectOutput(t, out, nOut, count, last);
