@@ -9,6 +9,7 @@ int runConvert(CommandArgs args);
 int runFormants(CommandArgs args);
 int runSpectrum(CommandArgs args);
 int runSpectrogram(CommandArgs args);
+int runF0(CommandArgs args);
 
 std::span<const Command> allCommands() {
     static constexpr std::array kCommands{
@@ -25,6 +26,7 @@ std::span<const Command> allCommands() {
                 "spectrogram FILE.wav --out PICTURE.png [--width 671] [--height 300] [--band HZ] [--limit HZ] "
                 "[--range 70] [--scheme 0|1|2] [--from S] [--to S]",
                 runSpectrogram},
+        Command{"f0", "f0 FILE.wav [OPTIONS]    F0 curve as time_s,f0_hz (--stats: its summary)", runF0},
     };
     return kCommands;
 }
