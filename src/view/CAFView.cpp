@@ -290,16 +290,54 @@ void CAFView::ShowSpectrogramPage() {
     if (isSpectrogramPage(m_displayMode)) return;
     stopAudio();
     m_displayMode = ModeAfterShowSpectrogram(m_displayMode, m_recording.hasSamples());
-    m_liveTrace.clear();
-    m_picture.clear();
+    resetLivePage();
     RedrawAll();
 }
 
 void CAFView::ShowSpectrumPage() {
     stopAudio();
     m_displayMode = ModeAfterShowSpectrum(m_recording.hasSamples());
-    m_liveTrace.clear();
+    resetLivePage();
     RedrawAll();
+}
+
+// The live counters start again; a live page takes the record engine's rate.
+void CAFView::resetLivePage() {
+    m_liveTrace.clear();
+    m_liveColumn = 0;
+    m_picture.resize(pictureDeviceRect().size());
+    if (!isLiveMode(m_displayMode)) return;
+    applyRate(rate());
+    m_spectrumObject.resetAverage();
+}
+
+void CAFView::DrawLiveBlock(std::span<const std::int16_t> block) {
+    if (!isLiveMode(m_displayMode) || block.empty()) return;
+    m_spectrogramObject.pushSamples(block);
+    if (m_displayMode == DisplayMode::LiveSpectrogramMode) {
+        if (m_picture.size() != pictureDeviceRect().size()) m_picture.resize(pictureDeviceRect().size());
+        const std::span<const std::uint8_t> column = m_spectrogramObject.computeLiveColumn(m_picture.size().height());
+        for (int twice = 0; twice < 2; ++twice) {
+            m_picture.paintColumn(m_liveColumn, column);
+            m_picture.setColumnsDone(std::max(m_picture.columnsDone(), m_liveColumn + 1));
+            m_liveColumn = std::min(m_liveColumn + 1, m_picture.size().width() - 1);
+        }
+        m_liveTrace.addBlock(block);
+    } else {
+        // A short block is too short for a spectrum of its own: the start of the ring stands in for it.
+        const std::span<const std::int16_t> ring = m_spectrogramObject.ring();
+        std::span<const std::int16_t> newest = block;
+        if (block.size() < 1024) {
+            newest = ring.first(std::min<std::size_t>(1024, ring.size()));
+        } else if (block.size() < 1280) {
+            newest = ring.first(std::min<std::size_t>(1280, ring.size()));
+        }
+        m_spectrumObject.computeSpectrum(newest);
+        m_spectrumObject.setValid(true);
+        m_liveTrace.addBlock(block.first(block.size() / 2));
+    }
+    rebuildPage(false);
+    update();
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -528,6 +566,7 @@ void CAFView::drawLivePage(QPainter& painter) {
     } else {
         const double topHz = m_spectrumObject.sampleRate() * 0.5 / m_spectrumObject.zoom();
         DrawSpectrumAxes(painter, pictureArea(), topHz);
+        if (m_spectrumObject.valid()) DrawSpectrum(painter, m_spectrumObject, m_spectrumSettings, pictureArea());
     }
 }
 

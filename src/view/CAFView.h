@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <span>
 #include <string_view>
 
 #include <QImage>
@@ -84,6 +85,12 @@ public:
     // Shows the selection alone, or back the whole recording; a single level that toggles.
     void Zoom();
 
+    // One block of samples captured or played on a live page: on the spectrogram page the newest column, painted
+    // twice at the next two columns (which stop at the graph's right end); on the power-spectrum page the spectrum
+    // of the newest samples, folded into the average; and the block, or on the spectrum page its first half, on the
+    // live strip.
+    void DrawLiveBlock(std::span<const std::int16_t> block);
+
     // The dialog that asks how to fold a stereo file; tests put a scripted answer in its place.
     void setStereoChooser(StereoChooser chooser) { m_chooseStereo = std::move(chooser); }
 
@@ -145,6 +152,7 @@ private:
     void stopAudio();
     int loadFileSteps(DisplayMode remembered);
     void applyRate(int rate);
+    void resetLivePage();
     void showFailedOpening();
     void computePicture();
     void ensureSpectrum();
@@ -199,6 +207,7 @@ private:
     bool m_pictureComputed = false;
     bool m_computing = false;
     LiveTrace m_liveTrace;
+    int m_liveColumn = 0;  // the next column of the live spectrogram
 
     QImage m_backBitmap;
     QImage m_savedGraph;

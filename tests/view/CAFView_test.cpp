@@ -72,6 +72,7 @@ private slots:
     void aRepaintOrResizeCopiesThePictureAndTheSizeSettlesSharp();
     void theSpectrogramIsThePictureOfTheCommandLineTool();
     void closingLeavesTheEmptyViewWithTheClientsName();
+    void liveBlocksGrowTheSpectrogramTheSpectrumAndTheStrip();
 
 private:
     FakePrompt* m_prompt = nullptr;
@@ -389,6 +390,37 @@ void CAFViewTest::closingLeavesTheEmptyViewWithTheClientsName() {
     QVERIFY(m_view->action(kIdShowSpectrogram)->isEnabled());  // a client is open
     m_view->ShowSpectrumPage();                                // with nothing loaded: the live page, ready to record
     QCOMPARE(m_view->displayMode(), DisplayMode::LiveSpectrumMode);
+    QVERIFY(m_prompt->shown.empty());
+}
+
+void CAFViewTest::liveBlocksGrowTheSpectrogramTheSpectrumAndTheStrip() {
+    m_view->ShowSpectrogramPage();  // nothing loaded: ready to record at the engine's 11025 Hz
+    QCOMPARE(m_view->displayMode(), DisplayMode::LiveSpectrogramMode);
+    QCOMPARE(m_view->rate(), 11025);
+    const auto tone = sine(1000, 11025, 1.0);
+    for (int b = 0; b < 10; ++b)
+        m_view->DrawLiveBlock(std::span<const std::int16_t>(tone).subspan(static_cast<std::size_t>(b) * 458, 458));
+    QCOMPARE(m_view->picture().columnsDone(), 20);  // each block paints its column twice
+    QCOMPARE(m_view->liveTrace().count(), 10 * 4 * 8);
+    // 1000 Hz of the 5512 Hz the Limit list selects at 11025 Hz.
+    const QImage& picture = m_view->picture().image();
+    const int row = picture.height() - static_cast<int>(1000.0 / 5512.0 * picture.height());
+    int strongest = 0;
+    for (int r = 1; r < picture.height(); ++r)
+        if (picture.scanLine(r)[15] < picture.scanLine(strongest)[15]) strongest = r;
+    QVERIFY(std::abs(strongest - row) <= 2);
+    QCOMPARE(int(picture.scanLine(row)[25]), kBackgroundEntry);  // not painted yet
+    const QRect area = m_view->pictureDeviceRect();
+    QCOMPARE(m_view->backBitmap().pixel(area.left() + 15, area.top() + strongest),
+             picture.convertToFormat(QImage::Format_RGB32).pixel(15, strongest));
+
+    m_view->ShowSpectrumPage();
+    QCOMPARE(m_view->displayMode(), DisplayMode::LiveSpectrumMode);
+    QCOMPARE(m_view->liveTrace().count(), 0);
+    for (int b = 0; b < 3; ++b) m_view->DrawLiveBlock(std::span<const std::int16_t>(tone).subspan(0, 2048));
+    QVERIFY(m_view->spectrumObject().valid());
+    QCOMPARE(m_view->spectrumObject().nAveraged(), 3);
+    QCOMPARE(m_view->liveTrace().count(), 3 * 4 * 8);  // half of each block
     QVERIFY(m_prompt->shown.empty());
 }
 
