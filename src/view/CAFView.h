@@ -85,6 +85,10 @@ public:
     // Shows the selection alone, or back the whole recording; a single level that toggles.
     void Zoom();
 
+    // The dynamic range or the colour scheme of the spectrogram settings changed: the picture takes the new palette
+    // at once, with no new analysis.
+    void ApplyPalette();
+
     // One block of samples captured or played on a live page: on the spectrogram page the newest column, painted
     // twice at the next two columns (which stop at the graph's right end); on the power-spectrum page the spectrum
     // of the newest samples, folded into the average; and the block, or on the spectrum page its first half, on the

@@ -73,6 +73,7 @@ private slots:
     void theSpectrogramIsThePictureOfTheCommandLineTool();
     void closingLeavesTheEmptyViewWithTheClientsName();
     void liveBlocksGrowTheSpectrogramTheSpectrumAndTheStrip();
+    void aNewColourSchemeRecoloursThePictureWithoutNewAnalysis();
 
 private:
     FakePrompt* m_prompt = nullptr;
@@ -422,6 +423,23 @@ void CAFViewTest::liveBlocksGrowTheSpectrogramTheSpectrumAndTheStrip() {
     QCOMPARE(m_view->spectrumObject().nAveraged(), 3);
     QCOMPARE(m_view->liveTrace().count(), 3 * 4 * 8);  // half of each block
     QVERIFY(m_prompt->shown.empty());
+}
+
+void CAFViewTest::aNewColourSchemeRecoloursThePictureWithoutNewAnalysis() {
+    open();
+    const QRect area = m_view->pictureDeviceRect();
+    const QImage before = m_view->picture().image().copy();
+    m_view->spectrogramSettings().colourScheme = 0;
+    m_view->spectrogramSettings().dynamicRange = 40;
+    m_view->ApplyPalette();
+    const QImage& after = m_view->picture().image();
+    QCOMPARE(after.size(), before.size());
+    QVERIFY(std::equal(after.constBits(), after.constBits() + after.sizeInBytes(), before.constBits()));
+    const Palette grey = BuildPalette(40, 0);
+    for (const QPoint at : {QPoint(100, 300), QPoint(400, 20), QPoint(700, 200)}) {
+        const Rgb c = grey[after.scanLine(at.y())[at.x()]];
+        QCOMPARE(m_view->backBitmap().pixel(area.topLeft() + at), qRgb(c.red, c.green, c.blue));
+    }
 }
 
 QTEST_MAIN(CAFViewTest)
