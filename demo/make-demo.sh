@@ -11,3 +11,6 @@ mkdir -p pac001 pac002 "Other Files"
 say pac001/wv001.wav 22050 en "The rainbow is a division of white light into many beautiful colours."
 say pac001/wv002.wav 22050 en+f3 "Aaaaaaaah. Eeeeeeeeh. Ooooooooh."
 say pac002/qv001.wav 44100 en+m3 "Speech therapy helps people speak clearly."
+# The client table: clients 1 and 2, whose folders hold the recordings above (needs the built command-line tool).
+rm -f pacb.dbf
+"${SONALYS_ANALYZE:-../build/src/cli/sonalys-analyze}" demo-table .

@@ -32,6 +32,7 @@ inline void appendLE32(std::vector<std::uint8_t>& out, std::uint32_t v) {
 // 16-bit samples between memory (native order) and disk (little-endian).
 inline void samplesFromLE(std::span<const std::uint8_t> bytes, std::int16_t* out) noexcept {
     const std::size_t count = bytes.size() / 2;
+    if (count == 0) return;  // an empty span may carry no pointer at all
     if constexpr (std::endian::native == std::endian::little) {
         std::memcpy(out, bytes.data(), count * 2);
     } else {
@@ -39,6 +40,7 @@ inline void samplesFromLE(std::span<const std::uint8_t> bytes, std::int16_t* out
     }
 }
 inline void samplesToLE(std::span<const std::int16_t> samples, std::uint8_t* out) noexcept {
+    if (samples.empty()) return;
     if constexpr (std::endian::native == std::endian::little) {
         std::memcpy(out, samples.data(), samples.size() * 2);
     } else {

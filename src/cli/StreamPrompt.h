@@ -1,0 +1,21 @@
+// The prompt of the command-line tool: every message goes to the error stream, and every question is answered No,
+// so that nothing is ever done without a person saying so.
+#pragma once
+
+#include <ostream>
+#include <string_view>
+
+#include "store/Prompt.h"
+
+class StreamPrompt final : public Prompt {
+public:
+    explicit StreamPrompt(std::ostream& out) : m_out(out) {}
+    void showOk(std::string_view text) override { m_out << text << "\n"; }
+    bool askYesNo(std::string_view text) override {
+        m_out << text << " [answered No]\n";
+        return false;
+    }
+
+private:
+    std::ostream& m_out;
+};
