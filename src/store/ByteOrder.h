@@ -39,6 +39,16 @@ inline void samplesFromLE(std::span<const std::uint8_t> bytes, std::int16_t* out
         for (std::size_t i = 0; i < count; ++i) out[i] = static_cast<std::int16_t>(readLE16(bytes.data() + 2 * i));
     }
 }
+// 16-bit samples read from disk straight into their buffer, put into native order where they stand.
+inline void samplesFromLEInPlace(std::span<std::int16_t> samples) noexcept {
+    if constexpr (std::endian::native != std::endian::little) {
+        for (auto& s : samples) {
+            std::uint8_t bytes[2];
+            std::memcpy(bytes, &s, 2);
+            s = static_cast<std::int16_t>(readLE16(bytes));
+        }
+    }
+}
 inline void samplesToLE(std::span<const std::int16_t> samples, std::uint8_t* out) noexcept {
     if (samples.empty()) return;
     if constexpr (std::endian::native == std::endian::little) {

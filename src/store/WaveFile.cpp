@@ -6,12 +6,19 @@
 #include <new>
 #include <system_error>
 
+#include "Assert.h"
 #include "ByteOrder.h"
+#include "DateFile.h"
+#include "FileLookup.h"
+#include "FileTimes.h"
 #include "Prompt.h"
 #include "ReplacingFile.h"
 #include "TextFormat.h"
 
 namespace {
+
+// Samples are written through a buffer of this size, so writing never needs a second copy of the whole recording.
+constexpr std::size_t kCopyBlockBytes = 64 * 1024;
 
 struct ChunkHeader {
     std::array<char, 4> id{};
@@ -24,12 +31,19 @@ bool readExactly(std::ifstream& stream, void* buffer, std::size_t size) {
     return static_cast<std::size_t>(stream.gcount()) == size;
 }
 
+// The read position, or the file's size when the stream has failed, so that nothing further fits.
+std::uint64_t positionOf(WaveHandle& handle) {
+    const auto position = handle.stream.tellg();
+    if (position < 0) return handle.fileSize;
+    return std::min<std::uint64_t>(static_cast<std::uint64_t>(position), handle.fileSize);
+}
+
 bool readChunkHeader(WaveHandle& handle, ChunkHeader& chunk) {
     std::uint8_t raw[8];
     if (!readExactly(handle.stream, raw, sizeof raw)) return false;
     std::memcpy(chunk.id.data(), raw, 4);
     chunk.size = readLE32(raw + 4);
-    chunk.dataOffset = static_cast<std::uint64_t>(handle.stream.tellg());
+    chunk.dataOffset = positionOf(handle);
     return true;
 }
 
@@ -40,15 +54,16 @@ bool seekTo(WaveHandle& handle, std::uint64_t offset) {
     return static_cast<bool>(handle.stream);
 }
 
+std::uint64_t chunkEnd(const ChunkHeader& chunk) { return chunk.dataOffset + chunk.size + (chunk.size & 1u); }
+
 // Walks the chunks from the current position to the end of the file and stops inside the first one named `id`.
 // Chunks are padded to an even length. The walk goes by the file's real end rather than by the RIFF size, which
-// some writers leave wrong.
+// writers that cannot seek back (a pipe) leave wrong.
 bool findChunk(WaveHandle& handle, const char* id, ChunkHeader& chunk) {
     for (;;) {
         if (!readChunkHeader(handle, chunk)) return false;
         if (std::memcmp(chunk.id.data(), id, 4) == 0) return true;
-        const std::uint64_t next = chunk.dataOffset + chunk.size + (chunk.size & 1u);
-        if (!seekTo(handle, next)) return false;
+        if (!seekTo(handle, chunkEnd(chunk))) return false;
     }
 }
 
@@ -70,7 +85,8 @@ int readFormatChunk(WaveHandle& handle, WaveFormat& format) {
     std::uint8_t fixed[16];
     if (!readExactly(handle.stream, fixed, sizeof fixed)) return kWaveFormatUnreadable;
     format = formatFromFixedBytes(fixed);
-    // Plain PCM has no extra size field, whether or not its chunk holds one.
+    // Plain PCM has no extra size, whether or not its chunk holds the field. For other tags the two bytes after
+    // the fixed part are the extra size, read from the file as it stands; at most 65535 bytes follow.
     if (format.wFormatTag != 1) {
         std::uint8_t extraSize[2];
         if (!readExactly(handle.stream, extraSize, sizeof extraSize)) return kWaveFormatUnreadable;
@@ -78,8 +94,40 @@ int readFormatChunk(WaveHandle& handle, WaveFormat& format) {
         format.extra.resize(format.cbSize);
         if (!readExactly(handle.stream, format.extra.data(), format.extra.size())) return kWaveNotWave;
     }
-    if (!seekTo(handle, fmt.dataOffset + fmt.size + (fmt.size & 1u))) return kWaveChunkNotFound;
+    // Leaving the chunk only moves the read position; the search for the data starts afresh anyway.
+    seekTo(handle, chunkEnd(fmt));
     return kWaveOk;
+}
+
+std::vector<std::uint8_t> headerFor(const WaveFormat& format, std::uint32_t bytes) {
+    constexpr std::uint32_t kHeaderBytes = 46;
+    std::vector<std::uint8_t> header;
+    header.reserve(kHeaderBytes);
+    header.insert(header.end(), {'R', 'I', 'F', 'F'});
+    appendLE32(header, kHeaderBytes - 8 + bytes);
+    header.insert(header.end(), {'W', 'A', 'V', 'E', 'f', 'm', 't', ' '});
+    appendLE32(header, 18);
+    appendLE16(header, 1);
+    appendLE16(header, format.nChannels);
+    appendLE32(header, format.nSamplesPerSec);
+    appendLE32(header, static_cast<std::uint32_t>(format.nBlockAlign) * format.nSamplesPerSec);
+    appendLE16(header, format.nBlockAlign);
+    appendLE16(header, format.wBitsPerSample);
+    appendLE16(header, 0);
+    header.insert(header.end(), {'d', 'a', 't', 'a'});
+    appendLE32(header, bytes);
+    return header;
+}
+
+bool writeSamples(ReplacingFile& file, const std::int16_t* samples, std::uint32_t bytes) {
+    std::vector<std::uint8_t> block(kCopyBlockBytes);
+    for (std::uint32_t done = 0; done < bytes;) {
+        const auto part = static_cast<std::uint32_t>(std::min<std::uint64_t>(block.size(), bytes - done));
+        samplesToLE({samples + done / 2, part / 2}, block.data());
+        if (!file.write(block.data(), part)) return false;
+        done += part;
+    }
+    return true;
 }
 
 }  // namespace
@@ -87,9 +135,10 @@ int readFormatChunk(WaveHandle& handle, WaveFormat& format) {
 WaveOpenResult WaveOpen(const std::filesystem::path& fileName) {
     WaveOpenResult result;
     WaveHandle& handle = result.handle;
+    const std::filesystem::path found = findFileIgnoringCase(fileName);
     std::error_code error;
-    const auto size = std::filesystem::file_size(fileName, error);
-    handle.stream.open(fileName, std::ios::binary);
+    const auto size = std::filesystem::file_size(found, error);
+    if (!error) handle.stream.open(found, std::ios::binary);
     if (error || !handle.stream) {
         result.code = kWaveCannotOpen;
         return result;
@@ -124,14 +173,13 @@ int WaveReadSamples(WaveHandle& handle, std::int16_t* buffer, std::uint32_t byte
     count = 0;
     const std::uint32_t request = std::min(bytes, handle.dataRemaining);
     handle.dataRemaining -= request;
-    const std::uint64_t position = static_cast<std::uint64_t>(handle.stream.tellg());
-    // A chunk that claims more than the file holds is refused before anything is copied.
-    if (position > handle.fileSize || request > handle.fileSize - position) return kWaveDataTruncated;
     const std::uint32_t values = request / 2;
-    std::vector<std::uint8_t> raw(static_cast<std::size_t>(values) * 2);
-    if (!readExactly(handle.stream, raw.data(), raw.size())) return kWaveDataTruncated;
-    if (request & 1u) handle.stream.ignore(1);
-    samplesFromLE(raw, buffer);
+    // Values are copied whole; the file is short only when one of them is missing, so a chunk of 5 bytes of
+    // which the file holds 4 still gives 2 values.
+    if (std::uint64_t{values} * 2 > handle.fileSize - positionOf(handle)) return kWaveDataTruncated;
+    // The values go straight from the file into the buffer, then into native order where they stand.
+    if (!readExactly(handle.stream, buffer, std::size_t{values} * 2)) return kWaveDataTruncated;
+    samplesFromLEInPlace({buffer, values});
     count = values;
     return kWaveOk;
 }
@@ -139,19 +187,18 @@ int WaveReadSamples(WaveHandle& handle, std::int16_t* buffer, std::uint32_t byte
 WaveLoadResult WaveLoad(const std::filesystem::path& fileName) {
     WaveLoadResult result;
     WaveOpenResult opened = WaveOpen(fileName);
+    WaveHandle& handle = opened.handle;
     result.code = opened.code;
-    if (result.code == kWaveOk) result.code = WaveFindData(opened.handle);
+    if (result.code == kWaveOk) result.code = WaveFindData(handle);
     if (result.code == kWaveOk) {
-        WaveHandle& handle = opened.handle;
-        const std::uint64_t position = static_cast<std::uint64_t>(handle.stream.tellg());
-        if (handle.dataRemaining > handle.fileSize - std::min(position, handle.fileSize)) {
-            result.code = kWaveDataTruncated;
+        const std::uint32_t values = handle.dataRemaining / 2;
+        if (std::uint64_t{values} * 2 > handle.fileSize - positionOf(handle)) {
+            result.code = kWaveDataTruncated;  // refused before a buffer of that claimed size is made
         } else {
             try {
-                result.samples.resize(handle.dataRemaining / 2);
+                result.samples.resize(values);
                 std::uint32_t count = 0;
                 result.code = WaveReadSamples(handle, result.samples.data(), handle.dataRemaining, count);
-                result.samples.resize(count);
             } catch (const std::bad_alloc&) {
                 result.code = kWaveNoMemory;
             }
@@ -166,12 +213,13 @@ WaveLoadResult WaveLoad(const std::filesystem::path& fileName) {
 }
 
 void WaveWriter::SetRecordFormat(int index) {
+    SONALYS_ASSERT(0 <= index && index <= 9);
     static constexpr std::uint32_t kRates[] = {8000, 11025, 22050, 44100, 50000};
     const int bits = (index % 2 == 0) ? 8 : 16;
     format = WaveFormat{};
     format.wFormatTag = 1;
     format.nChannels = 1;
-    format.nSamplesPerSec = kRates[std::clamp(index, 0, 9) / 2];
+    format.nSamplesPerSec = kRates[index / 2];
     format.wBitsPerSample = static_cast<std::uint16_t>(bits);
     format.nBlockAlign = static_cast<std::uint16_t>(bits / 8);
     format.nAvgBytesPerSec = format.nBlockAlign * format.nSamplesPerSec;
@@ -179,39 +227,24 @@ void WaveWriter::SetRecordFormat(int index) {
 }
 
 int WaveWriter::WaveWrite(const std::filesystem::path& fileName, std::uint32_t bytes, const std::int16_t* samples,
-                          Prompt& prompt) const {
-    constexpr std::uint32_t kHeaderBytes = 46;
+                          Prompt& prompt) {
+    SONALYS_ASSERT(bytes <= UINT32_MAX - 38);
     bytes &= ~1u;  // samples are whole 16-bit values
-    std::vector<std::uint8_t> header;
-    header.reserve(kHeaderBytes);
-    header.insert(header.end(), {'R', 'I', 'F', 'F'});
-    appendLE32(header, kHeaderBytes - 8 + bytes);
-    header.insert(header.end(), {'W', 'A', 'V', 'E', 'f', 'm', 't', ' '});
-    appendLE32(header, 18);
-    appendLE16(header, format.wFormatTag);
-    appendLE16(header, format.nChannels);
-    appendLE32(header, format.nSamplesPerSec);
-    appendLE32(header, format.nAvgBytesPerSec);
-    appendLE16(header, format.nBlockAlign);
-    appendLE16(header, format.wBitsPerSample);
-    appendLE16(header, 0);
-    header.insert(header.end(), {'d', 'a', 't', 'a'});
-    appendLE32(header, bytes);
+    m_createdAt.reset();
+    // A file written over an older one is a new file on disk; the recording's first creation time is taken
+    // before it goes, so that the date file can keep it.
+    const std::filesystem::path target = findFileIgnoringCase(fileName);
+    const std::optional<std::int64_t> firstCreated = recordingCreationTime(target);
 
-    ReplacingFile file(fileName);
-    bool ok = file.write(header.data(), header.size());
-    std::vector<std::uint8_t> block(64 * 1024);
-    for (std::uint32_t done = 0; ok && done < bytes;) {
-        const std::uint32_t part = std::min<std::uint32_t>(static_cast<std::uint32_t>(block.size()), bytes - done);
-        samplesToLE({samples + done / 2, part / 2}, block.data());
-        ok = file.write(block.data(), part);
-        done += part;
-    }
-    if (ok) ok = file.commit();
-    if (!ok) {
+    const std::vector<std::uint8_t> header = headerFor(format, bytes);
+    ReplacingFile file(target);
+    const bool written =
+        file.write(header.data(), header.size()) && writeSamples(file, samples, bytes) && file.commit();
+    if (!written) {
         const std::string name = fileName.string();
         prompt.showOk(formatText(kCannotRecordFile.data(), name.c_str()));
         return 0;
     }
+    m_createdAt = firstCreated ? firstCreated : fileCreationTime(target);
     return 1;
 }

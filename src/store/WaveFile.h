@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <span>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -59,10 +59,15 @@ struct WaveLoadResult {
     std::vector<std::int16_t> samples;  // count = samples.size(), the data chunk's bytes / 2
 };
 
+// Opens `fileName` (found in any case of its name) and reads its format record. On failure nothing stays open.
 WaveOpenResult WaveOpen(const std::filesystem::path& fileName);
+// Positions the handle on the contents of the "data" chunk, wherever it lies among the other chunks.
 int WaveFindData(WaveHandle& handle);
-// Copies up to `bytes` / 2 values of what the data chunk has left into `buffer`; `count` gets how many.
+// Copies `bytes` / 2 values (an odd last byte dropped) of what the data chunk has left into `buffer`, and sets
+// `count` to how many. When the file ends before they are all there, returns kWaveDataTruncated with count 0.
 int WaveReadSamples(WaveHandle& handle, std::int16_t* buffer, std::uint32_t bytes, std::uint32_t& count);
+// Opens, finds the data and reads all of it. On failure the format and the samples are empty. A data chunk that
+// claims more than the file holds is refused before any buffer is made for it.
 WaveLoadResult WaveLoad(const std::filesystem::path& fileName);
 
 // Holds the format record that files are written with.
@@ -73,7 +78,18 @@ public:
     // Fills the format record from the record-format table: index 0..9 gives 8000, 11025, 22050, 44100 and
     // 50000 Hz in pairs, even indices 8 bits, odd indices 16 bits, always one channel.
     void SetRecordFormat(int index);
-    // Writes the 46-byte header and `bytes` bytes of samples. Returns 1, or 0 after telling the user.
+
+    // Writes the 46-byte header and `bytes` bytes of samples (an odd last byte is dropped). The format tag is
+    // always 1 and the extra size 0, whatever the record says: the samples are plain PCM. The new file replaces
+    // an existing one only once it is complete. Returns 1, or 0 after telling the user, the old file untouched.
     int WaveWrite(const std::filesystem::path& fileName, std::uint32_t bytes, const std::int16_t* samples,
-                  Prompt& prompt) const;
+                  Prompt& prompt);
+
+    // When the recording last written was first made, in seconds since 1970, for its date file. A file that
+    // replaced an older one keeps the older one's time, so that saving an edit does not change the recording's
+    // date; nothing after a failed write.
+    std::optional<std::int64_t> createdAt() const noexcept { return m_createdAt; }
+
+private:
+    std::optional<std::int64_t> m_createdAt;
 };

@@ -1,0 +1,90 @@
+#include "analysis/PowerSpectrum.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+namespace {
+
+std::vector<std::int16_t> sine(double hz, int rate, int n, double amplitude) {
+    std::vector<std::int16_t> s(static_cast<std::size_t>(n));
+    for (int i = 0; i < n; ++i)
+        s[i] = static_cast<std::int16_t>(std::lround(amplitude * std::sin(2.0 * std::numbers::pi * hz * i / rate)));
+    return s;
+}
+
+}  // namespace
+
+TEST(PowerSpectrum, A1000HzSinePeaksInItsBinAtEveryFftSize) {
+    for (int size : {256, 512, 1024}) {
+        for (bool window : {true, false}) {
+            PowerSpectrum p;
+            p.setFftSize(size);
+            p.setUseWindow(window);
+            p.computeSpectrum(sine(1000.0, 11025, 11025, 8000.0));
+            const auto spectrum = p.current();
+            ASSERT_EQ(spectrum.size(), static_cast<std::size_t>(size / 2));
+            const auto peak = std::max_element(spectrum.begin(), spectrum.end()) - spectrum.begin();
+            EXPECT_EQ(peak, std::lround(1000.0 * size / 11025)) << size << (window ? " windowed" : "");
+        }
+    }
+}
+
+TEST(PowerSpectrum, LevelIsTheMeanFramePowerLessTheFixedReference) {
+    // Amplitude A exactly on bin 32 with no window: |X| = A * 512 / 2 in every frame, so the level is
+    // 20 log10(A * 256) - 18 log10(512).
+    PowerSpectrum p;
+    p.setUseWindow(false);
+    p.computeSpectrum(sine(32.0 * 11025 / 512, 11025, 4000, 1000.0));
+    EXPECT_NEAR(p.current()[32], 20.0 * std::log10(1000.0 * 256) - 18.0 * std::log10(512.0), 0.01);
+}
+
+TEST(PowerSpectrum, FramesAreFftSizeLongAnd200Apart) {
+    // An impulse in the first frame only: its power is divided by the number of frames.
+    auto levelWith = [](int n) {
+        std::vector<std::int16_t> s(static_cast<std::size_t>(n), 0);
+        s[0] = 1000;
+        PowerSpectrum p;
+        p.setUseWindow(false);
+        p.computeSpectrum(s);
+        return p.current()[10];
+    };
+    const double oneFrame = 20.0 * std::log10(1000.0) - 18.0 * std::log10(512.0);
+    EXPECT_NEAR(levelWith(711), oneFrame, 1e-4);                           // 512 + 199: one frame
+    EXPECT_NEAR(levelWith(712), oneFrame - 10.0 * std::log10(2.0), 1e-4);  // 512 + 200: two
+}
+
+TEST(PowerSpectrum, NoWholeFrameLeavesEveryBinAtZero) {
+    PowerSpectrum p;
+    p.computeSpectrum(sine(1000.0, 11025, 300, 8000.0));  // below 512 - 200
+    for (float v : p.current()) EXPECT_EQ(v, 0.0f);
+    p.computeSpectrum(sine(1000.0, 11025, 511, 8000.0));
+    for (float v : p.current()) EXPECT_EQ(v, 0.0f);
+}
+
+TEST(PowerSpectrum, AverageIsTheRunningMeanUntilReset) {
+    PowerSpectrum p;
+    const auto tone = sine(1000.0, 11025, 4000, 8000.0);
+    p.computeSpectrum(tone);
+    const std::vector<float> first(p.current().begin(), p.current().end());
+    EXPECT_EQ(p.nAveraged(), 1);
+    for (std::size_t k = 0; k < first.size(); ++k) EXPECT_EQ(p.average()[k], first[k]);
+    p.computeSpectrum(std::vector<std::int16_t>(4000, 0));  // silence: every bin exactly 0
+    EXPECT_EQ(p.nAveraged(), 2);
+    for (std::size_t k = 0; k < first.size(); ++k) EXPECT_FLOAT_EQ(p.average()[k], first[k] / 2);
+    p.setValid(true);
+    p.resetAverage();
+    EXPECT_EQ(p.nAveraged(), 0);
+    EXPECT_FALSE(p.valid());
+    for (float v : p.average()) EXPECT_EQ(v, 0.0f);
+}
+
+TEST(PowerSpectrum, SampleRateKeepsTheRatio) {
+    PowerSpectrum p;
+    p.setMaxFrequency(2756.0f);  // a quarter of 11025
+    p.setSampleRate(22050);
+    EXPECT_NEAR(p.zoom(), 5512.5 / 2756.0, 1e-5);
+}

@@ -1,0 +1,207 @@
+#include "analysis/Spectrogram.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <numbers>
+#include <random>
+#include <vector>
+
+namespace {
+
+// Keeps every column handed over, and which were blanked.
+class RecordingPainter : public ColumnPainter {
+public:
+    std::vector<std::vector<std::uint8_t>> columns;
+    std::vector<bool> blank;
+    void paintColumn(int c, std::span<const std::uint8_t> levels) override {
+        EXPECT_EQ(c, static_cast<int>(columns.size()));
+        columns.emplace_back(levels.begin(), levels.end());
+        blank.push_back(false);
+    }
+    void blankColumn(int c) override {
+        EXPECT_EQ(c, static_cast<int>(columns.size()));
+        columns.emplace_back();
+        blank.push_back(true);
+    }
+};
+
+std::vector<std::int16_t> sine(double hz, int rate, int n, double amplitude) {
+    std::vector<std::int16_t> s(static_cast<std::size_t>(n));
+    for (int i = 0; i < n; ++i)
+        s[i] = static_cast<std::int16_t>(amplitude * std::sin(2.0 * std::numbers::pi * hz * i / rate));
+    return s;
+}
+
+std::vector<std::int16_t> noise(int n, unsigned seed) {
+    std::mt19937 random(seed);
+    std::uniform_int_distribution<int> sample(-20000, 20000);
+    std::vector<std::int16_t> s(static_cast<std::size_t>(n));
+    for (auto& v : s) v = static_cast<std::int16_t>(sample(random));
+    return s;
+}
+
+}  // namespace
+
+TEST(SpectrogramWindow, LengthFollowsTheBandAndStopsAtTheFftLength) {
+    struct Row {
+        int band, rate, fft, expected;
+    };
+    const Row rows[] = {
+        {10, 11025, 1024, 1024},  // 1764 asked for, limited
+        {40, 11025, 1024, 441},  {80, 11025, 1024, 220},  {150, 11025, 1024, 117},
+        {300, 11025, 1024, 58},  {400, 11025, 1024, 44},  // 0.004 s
+        {40, 22050, 1024, 882},  {10, 44100, 8192, 7056},
+    };
+    for (const Row& r : rows)
+        EXPECT_EQ(analysisWindowLength(static_cast<float>(r.band), r.rate, r.fft), r.expected)
+            << r.band << " Hz at " << r.rate;
+}
+
+TEST(SpectrogramFft, LengthTableByRateHeightAndZoom) {
+    struct Row {
+        int rate, height, zoom, expected;
+    };
+    const Row rows[] = {
+        {11025, 300, 2, 2048}, {11025, 800, 1, 1024}, {11025, 100, 4, 1024}, {22050, 301, 4, 4096},
+        {22050, 301, 2, 2048}, {22050, 301, 1, 2048}, {22050, 301, 3, 2048}, {22050, 300, 2, 2048},
+        {22050, 300, 4, 4096}, {22050, 300, 1, 1024}, {22050, 300, 3, 1024},  // a ratio of 3 does not raise the length
+        {44100, 300, 8, 8192}, {44100, 900, 2, 4096}, {16000, 300, 2, 1024}, {8000, 900, 1, 1024},
+    };
+    for (const Row& r : rows)
+        EXPECT_EQ(spectrogramFftLength(r.rate, r.height, r.zoom), r.expected)
+            << r.rate << " Hz, height " << r.height << ", zoom " << r.zoom;
+}
+
+TEST(Spectrogram, SilenceGivesLevelZeroEverywhere) {
+    Spectrogram s;
+    s.setMaxFrequency(5512);
+    RecordingPainter painter;
+    const std::vector<std::int16_t> silence(11025, 0);
+    s.computeColumns(50, 300, silence, 0.0, 1.0, 11025, painter);
+    ASSERT_EQ(painter.columns.size(), 50u);
+    for (const auto& column : painter.columns) {
+        ASSERT_EQ(column.size(), 300u);
+        for (std::uint8_t level : column) EXPECT_EQ(level, 0);
+    }
+}
+
+TEST(Spectrogram, A1000HzSinePeaksInTheRowOf1000Hz) {
+    for (int rate : {11025, 22050, 44100}) {
+        Spectrogram s;
+        s.setSampleRate(rate);
+        s.setBandwidth(40);
+        s.setMaxFrequency(5512);
+        const int rows = 200;
+        RecordingPainter painter;
+        const auto signal = sine(1000.0, rate, rate, 10000.0);
+        s.computeColumns(20, rows, signal, 0.0, 0.5, rate, painter);
+        const std::vector<std::uint8_t>& column = painter.columns[10];
+        const int peakRow = static_cast<int>(std::max_element(column.begin(), column.end()) - column.begin());
+        // Rows span 5512 Hz evenly from the bottom; the peak row holds 1000 Hz to within one row.
+        const double rowHz = 5512.0 / rows;
+        const double peakHz = (rows - 1 - peakRow + 0.5) * rowHz;
+        EXPECT_NEAR(peakHz, 1000.0, 1.5 * rowHz) << rate << " Hz";
+        EXPECT_GT(column[static_cast<std::size_t>(peakRow)], 60);
+    }
+}
+
+TEST(Spectrogram, RowsNoBinReachesAreZeroInAPictureAndRepeatTheRowBelowLive) {
+    // At a ratio of 1, 1000 rows share the 511 bins of a 1024-point transform: about every other row gets none.
+    const int rows = 1000;
+    const auto signal = noise(1024, 3);
+    Spectrogram live;
+    live.setSampleRate(11025);
+    live.setMaxFrequency(5512);
+    live.pushSamples(signal);
+    const auto liveLevels = live.computeLiveColumn(rows);
+    const std::vector<std::uint8_t> liveColumn(liveLevels.begin(), liveLevels.end());
+
+    // The same frame in a picture: a 1024-sample window centred so that it starts at sample 0.
+    Spectrogram picture;
+    picture.setSampleRate(11025);
+    picture.setMaxFrequency(5512);
+    RecordingPainter painter;
+    picture.computeColumns(1, rows, signal, 0.0, 511.0 / 11025.0, 11025, painter);
+    const std::vector<std::uint8_t>& pictureColumn = painter.columns[0];
+
+    int empty = 0;
+    for (int r = rows - 1; r >= 0; --r) {
+        if (pictureColumn[r] != 0) {
+            EXPECT_EQ(liveColumn[r], pictureColumn[r]) << "row " << r;
+        } else {
+            ++empty;
+            if (r + 1 < rows) {
+                EXPECT_EQ(liveColumn[r], liveColumn[r + 1]) << "row " << r;
+            }
+        }
+    }
+    EXPECT_GT(empty, 400);
+}
+
+TEST(Spectrogram, ColumnsPastTheDataRepeatTheLastOneAndShortStretchesAreBlank) {
+    Spectrogram s;
+    s.setMaxFrequency(5512);
+    s.setBandwidth(40);  // 441 samples
+    const auto signal = noise(2000, 7);
+    RecordingPainter painter;
+    // 100 columns over one second, 110.25 samples apart: column c ends its 441-sample window at
+    // trunc(110.25 (c + 1)) - 219 + 441, within the 2000 samples up to column 15.
+    s.computeColumns(100, 128, signal, 0.0, 1.0, 11025, painter);
+    ASSERT_EQ(painter.columns.size(), 100u);
+    const int lastFitting = 15;
+    for (int c = lastFitting + 1; c < 100; ++c) EXPECT_EQ(painter.columns[c], painter.columns[lastFitting]);
+    EXPECT_NE(painter.columns[lastFitting], painter.columns[lastFitting - 1]);
+
+    // Shorter than the window: nothing fits, and every column shows zero levels (background).
+    RecordingPainter shortPainter;
+    const auto shortSignal = noise(100, 8);
+    s.computeColumns(10, 64, shortSignal, 0.0, 1.0, 11025, shortPainter);
+    for (const auto& column : shortPainter.columns) EXPECT_EQ(column, std::vector<std::uint8_t>(64, 0));
+
+    // Under 2 samples: blank columns.
+    RecordingPainter blankPainter;
+    s.computeColumns(5, 64, signal, 0.0, 1.0 / 11025.0, 11025, blankPainter);
+    EXPECT_EQ(blankPainter.blank, std::vector<bool>(5, true));
+}
+
+TEST(Spectrogram, SampleRateKeepsTheRatioAndSetsTheLiveLength) {
+    Spectrogram s;
+    EXPECT_FLOAT_EQ(s.zoom(), 0.5f);  // 11025 Hz asked for at 11025 Hz
+    s.setMaxFrequency(5512);
+    EXPECT_FLOAT_EQ(s.zoom(), static_cast<float>(5512.5 / 5512));
+    s.setSampleRate(22050);
+    EXPECT_FLOAT_EQ(s.zoom(), static_cast<float>(11025.0 / 11024));  // trunc(11025 / 1.00009) = 11024
+    EXPECT_EQ(s.fftSize(), 2048);
+    EXPECT_EQ(s.ringSize(), 2048);
+    EXPECT_EQ(s.ring().size(), 2049u);
+    s.setSampleRate(16000);
+    EXPECT_EQ(s.fftSize(), 2048);  // other rates keep the length
+    s.setSampleRate(44100);
+    EXPECT_EQ(s.fftSize(), 4096);
+}
+
+TEST(Spectrogram, PushedSamplesEnterAtTheEndOfTheRing) {
+    Spectrogram s;  // ring of 1024
+    const std::vector<std::int16_t> first{1, 2, 3, 4, 5};
+    const std::vector<std::int16_t> second{6, 7};
+    s.pushSamples(first);
+    s.pushSamples(second);
+    const auto ring = s.ring();
+    EXPECT_EQ(ring[1016], 0);
+    for (int i = 0; i < 7; ++i) EXPECT_EQ(ring[1017 + i], i + 1);
+    std::vector<std::int16_t> big(1500);
+    for (int i = 0; i < 1500; ++i) big[i] = static_cast<std::int16_t>(i);
+    s.pushSamples(big);
+    EXPECT_EQ(s.ring()[0], 476);
+    EXPECT_EQ(s.ring()[1023], 1499);
+}
+
+TEST(Spectrogram, DefaultStateWithTheRatioBelowOneStaysWellFormed) {
+    Spectrogram s;  // ratio 0.5: the rows reach past the bins of the transform
+    s.pushSamples(noise(1024, 9));
+    const auto column = s.computeLiveColumn(3000);
+    EXPECT_EQ(column.size(), static_cast<std::size_t>(kMaxSpectrogramRows));
+}

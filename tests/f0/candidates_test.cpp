@@ -1,0 +1,173 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "F0TestSupport.h"
+#include "f0/candidates.h"
+
+namespace {
+
+// Sums as the plain loop forms them, to check the kernels that sum several lags side by side.
+std::vector<float> plainCorrelation(const float* x, const float* y, int size, int count) {
+    std::vector<float> out(static_cast<std::size_t>(count));
+    for (int l = 0; l < count; ++l) {
+        float s = 0.0f;
+        for (int i = 0; i < size; ++i) s += x[i] * y[l + i];
+        out[l] = s;
+    }
+    return out;
+}
+
+}  // namespace
+
+TEST(Correlation, LagsSummedSideBySideEqualThePlainLoopBitForBit) {
+    const std::vector<float> x = whiteNoise(2000, 30000.0, 3);
+    for (int count : {1, 7, 8, 9, 33, 40, 177}) {
+        for (int size : {1, 16, 165, 331}) {
+            std::vector<float> out(static_cast<std::size_t>(count) + 1, -1.0f);
+            correlateLags(x.data(), x.data() + 20, size, count, out.data());
+            const std::vector<float> plain = plainCorrelation(x.data(), x.data() + 20, size, count);
+            for (int l = 0; l < count; ++l) ASSERT_EQ(out[l], plain[l]) << count << " lags, size " << size;
+            EXPECT_EQ(out[count], -1.0f);  // nothing written past the last lag
+        }
+    }
+}
+
+TEST(CrossCorrLow, AFlatWindowGivesNoCorrelationAndAPeriodicOneGivesOneAtItsPeriod) {
+    std::vector<float> data(60, 500.0f);
+    std::vector<float> work(60 + kCorrelationSlack);
+    std::vector<float> correl(30, -1.0f);
+    float maxval = -1.0f;
+    ASSERT_EQ(crossCorrLow(data.data(), work.data(), 16, 1, 30, correl.data(), &maxval), 1);
+    EXPECT_EQ(maxval, 0.0f);
+    for (float c : correl) EXPECT_EQ(c, 0.0f);
+
+    // Period 10 of small whole numbers: every sum is exact, so lag 10 correlates exactly 1.
+    for (int i = 0; i < 60; ++i) data[i] = static_cast<float>((i % 10) * 3 - 13);
+    ASSERT_EQ(crossCorrLow(data.data(), work.data(), 20, 1, 30, correl.data(), &maxval), 1);
+    EXPECT_EQ(correl[10 - 1], 1.0f);
+    EXPECT_EQ(maxval, 1.0f);
+}
+
+TEST(CrossCorrHigh, OnlyTheNeighbourhoodsAreComputedAndWeakSignalsAreDamped) {
+    const int size = 40;
+    const int start0 = 10;
+    const int nlags0 = 50;
+    std::vector<float> data(size + start0 + nlags0 + 10);
+    for (std::size_t i = 0; i < data.size(); ++i) data[i] = static_cast<float>(static_cast<int>(i % 20) * 4 - 38);
+    std::vector<float> work(data.size() + kCorrelationSlack);
+    std::vector<float> correl(nlags0 + kCorrelationSlack, 9.0f);
+    float maxval = -1.0f;
+    ASSERT_EQ(crossCorrHigh(data.data(), work.data(), size, start0, nlags0, 7, &start0, 0, correl.data(), &maxval), 1);
+    for (int l = 0; l < nlags0; ++l) EXPECT_EQ(correl[l], 0.0f);
+    EXPECT_EQ(maxval, 0.0f);
+
+    const int locs[] = {20, 40};
+    ASSERT_EQ(crossCorrHigh(data.data(), work.data(), size, start0, nlags0, 7, locs, 2, correl.data(), &maxval), 1);
+    for (int l = 0; l < nlags0; ++l) {
+        const int lag = start0 + l;
+        const bool searched = (lag >= 17 && lag <= 23) || (lag >= 37 && lag <= 43);
+        if (!searched) {
+            EXPECT_EQ(correl[l], 0.0f) << lag;
+        }
+    }
+    // At the period the sum equals the window's energy e, so the value is e / sqrt(e * e + 10000).
+    double e = 0.0;
+    for (int i = 0; i < size; ++i) e += work[i] * work[i];
+    EXPECT_NEAR(correl[20 - start0], e / std::sqrt(e * e + 10000.0), 1e-6);
+    EXPECT_LT(correl[20 - start0], 1.0f);
+    EXPECT_EQ(maxval, std::max(correl[20 - start0], correl[40 - start0]));
+
+    // A location near the end is not pushed down: its neighbourhood runs past the last lag.
+    const int nearEnd[] = {start0 + nlags0 - 2};
+    std::fill(correl.begin(), correl.end(), 9.0f);
+    ASSERT_EQ(crossCorrHigh(data.data(), work.data(), size, start0, nlags0, 7, nearEnd, 1, correl.data(), &maxval), 1);
+    EXPECT_NE(correl[nlags0], 9.0f);
+    EXPECT_EQ(correl[nlags0 - 6], 0.0f);
+}
+
+TEST(GetPeaks, PlateausGiveTwoPeaksAndTheEndsGiveNone) {
+    const float correl[] = {0.9f, 0.5f, 0.8f, 0.8f, 0.2f, 0.31f, 0.1f, 0.4f, 0.6f, 0.7f};
+    float peaks[10];
+    int lags[10];
+    int n = -1;
+    getPeaks(correl, 10, 5, 1.0f, 0.3f, peaks, lags, &n);
+    // Position 0 is never a peak, 0.31 just clears 0.3, and the rise to the last two positions gives none.
+    ASSERT_EQ(n, 3);
+    EXPECT_EQ(lags[0], 7);
+    EXPECT_EQ(lags[1], 8);
+    EXPECT_EQ(lags[2], 10);
+    EXPECT_EQ(peaks[2], 0.31f);
+    getPeaks(correl, 10, 5, 1.0f, 0.31f, peaks, lags, &n);  // the limit itself is not above it
+    EXPECT_EQ(n, 2);
+}
+
+TEST(RefinePeak, TheVertexMovesTheLagWithTheHalfAddedWhateverTheSign) {
+    // Offsets of +0.3 and -0.3 at decimate 11: +3.3 + 0.5 truncates to 3, -3.3 + 0.5 to -2.
+    const auto offsetFor = [](float target) {
+        // y0, y1, y2 with curvature a = -1 put the vertex at (y0 - y2) / (4a) = target.
+        return std::vector<float>{-1.0f - 2 * target, 0.0f, -1.0f + 2 * target};
+    };
+    int lag = 20;
+    float peak = 0.0f;
+    std::vector<float> y = offsetFor(0.3f);
+    refinePeak(y.data(), 11, 0.0f, &lag, &peak);
+    EXPECT_EQ(lag, 220 + 3);
+    lag = 20;
+    y = offsetFor(-0.3f);
+    refinePeak(y.data(), 11, 0.0f, &lag, &peak);
+    EXPECT_EQ(lag, 220 - 2);
+    // The value is weighted against the new lag.
+    const float flat[] = {0.5f, 0.5f, 0.5f};
+    lag = 10;
+    refinePeak(flat, 11, 0.001f, &lag, &peak);
+    EXPECT_EQ(lag, 110);
+    EXPECT_EQ(peak, static_cast<float>((1.0 - 110 * 0.001f) * 0.5f));
+}
+
+TEST(SortPeaks, OnlyTheBestComeFirstAndEqualPeaksKeepTheirOrder) {
+    float peaks[] = {0.2f, 0.9f, 0.5f, 0.9f, 0.7f};
+    int lags[] = {1, 2, 3, 4, 5};
+    sortPeaks(lags, peaks, 5, 2);
+    EXPECT_EQ(lags[0], 2);
+    EXPECT_EQ(lags[1], 4);
+    EXPECT_EQ(peaks[1], 0.9f);
+}
+
+TEST(GetCandidates, SilenceHasTheVoicelessCandidateAloneAndNoiseIsCappedAtNCands) {
+    auto t = initTracker(22050, {"frame_step=0.011111", "min_f0=60", "max_f0=1400", "voice_bias=0.25", "n_cands=3"});
+    ASSERT_TRUE(t);
+    std::vector<float> silence(static_cast<std::size_t>(t->buffSize), 0.0f);
+    ASSERT_EQ(downsample(t.get(), silence.data(), t->buffSize), 1);
+    F0Frame* frame = t->head;
+    ASSERT_EQ(getCandidates(t.get(), silence.data(), 0, frame), 1);
+    ASSERT_EQ(frame->nCands, 1);
+    EXPECT_EQ(frame->cands[0].lag, -1);
+    EXPECT_EQ(frame->cands[0].cost, 0.25f);
+
+    const std::vector<float> noise = whiteNoise(static_cast<std::size_t>(t->buffSize), 20000.0);
+    ASSERT_EQ(downsample(t.get(), noise.data(), t->buffSize), 1);
+    for (int i = 0; i < t->framesPerBuff; ++i) {
+        ASSERT_EQ(getCandidates(t.get(), noise.data(), i, frame), 1);
+        ASSERT_LE(frame->nCands, 3);
+        EXPECT_EQ(frame->cands[frame->nCands - 1].lag, -1);
+        for (int c = 0; c + 1 < frame->nCands; ++c) {
+            EXPECT_GE(frame->cands[c].lag, t->firstLag + 1);
+            EXPECT_LE(frame->cands[c].lag, t->lastLag - 2);
+        }
+    }
+}
+
+TEST(GetCandidates, APeriodicFrameHasItsPeriodAsTheCheapestVoicedCandidate) {
+    auto t = systemTracker(22050);
+    const std::vector<float> data = sine(22050, 245.0, 0.3);  // a period of 90 samples
+    ASSERT_EQ(downsample(t.get(), data.data(), t->buffSize), 1);
+    F0Frame* frame = t->head;
+    ASSERT_EQ(getCandidates(t.get(), data.data(), 5, frame), 1);
+    ASSERT_GE(frame->nCands, 2);
+    int best = 0;
+    for (int c = 1; c + 1 < frame->nCands; ++c)
+        if (frame->cands[c].cost < frame->cands[best].cost) best = c;
+    EXPECT_EQ(frame->cands[best].lag, 90);
+    EXPECT_GT(frame->cands[frame->nCands - 1].cost, 0.9f);  // the voiceless cost is the largest correlation
+}

@@ -1,0 +1,315 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "F0TestSupport.h"
+#include "f0/rounding.h"
+
+TEST(F0Init, DerivedSizesAtTheSystemSettingsMatchTheTable) {
+    struct Row {
+        double rate;
+        int frameStep, windowSize, firstLag, lastLag, nLags, lpcOrder, decimate, filterLength, framesPerBuff, buffStep,
+            buffSize;
+    };
+    const Row rows[] = {
+        {11025, 122, 83, 8, 184, 177, 13, 5, 55, 16, 1952, 2254},
+        {22050, 245, 165, 16, 368, 353, 24, 11, 111, 16, 3920, 4526},
+        {44100, 490, 331, 32, 735, 704, 46, 22, 221, 16, 7840, 9052},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.rate);
+        const auto t = systemTracker(row.rate);
+        ASSERT_TRUE(t);
+        EXPECT_EQ(t->frameStep, row.frameStep);
+        EXPECT_EQ(t->windowSize, row.windowSize);
+        EXPECT_EQ(t->firstLag, row.firstLag);
+        EXPECT_EQ(t->lastLag, row.lastLag);
+        EXPECT_EQ(t->nLags, row.nLags);
+        EXPECT_EQ(t->lpcOrder, row.lpcOrder);
+        EXPECT_EQ(t->decimate, row.decimate);
+        EXPECT_EQ(downsampleFilterLength(t->filter.get()), row.filterLength);
+        EXPECT_EQ(t->framesPerBuff, row.framesPerBuff);
+        EXPECT_EQ(t->buffStep, row.buffStep);
+        EXPECT_EQ(t->buffSize, row.buffSize);
+    }
+}
+
+TEST(F0Init, TheLayersPassTheFrameStepThroughSixDecimals) {
+    // 1/90 s is 122.5 samples at 11025 Hz, which would round to 123; 0.011111 s gives the table's 122.
+    const auto t = f0CreateTracker(11025, 60, 1400, 90);
+    ASSERT_TRUE(t);
+    EXPECT_EQ(t->frameStep, 122);
+    EXPECT_EQ(f0CreateTracker(22050, 60, 1400, 90)->frameStep, 245);
+}
+
+TEST(F0Params, TextsAreParsedByExactNameAndStoredAsFloats) {
+    auto t = f0Create();
+    EXPECT_EQ(f0SetParam(t.get(), "min_f0=75.5"), 1);
+    EXPECT_EQ(f0GetParam(t.get(), "min_f0"), 75.5f);
+    EXPECT_EQ(f0SetParam(t.get(), "n_cands= 7.9junk"), 1);  // as atof reads it
+    EXPECT_EQ(f0GetParam(t.get(), "n_cands"), 7.9f);
+    EXPECT_EQ(f0SetParam(t.get(), "frame_step=1e-2"), 1);
+    EXPECT_EQ(f0GetParam(t.get(), "frame_step"), 0.01f);
+    EXPECT_EQ(f0SetParam(t.get(), "voice_bias=abc"), 1);
+    EXPECT_EQ(f0GetParam(t.get(), "voice_bias"), 0.0f);
+    EXPECT_EQ(f0SetParam(t.get(), "MIN_F0=10"), 0);   // names are case-sensitive
+    EXPECT_EQ(f0SetParam(t.get(), "min_f0"), 0);      // no '='
+    EXPECT_EQ(f0SetParam(t.get(), "min_f0 =10"), 0);  // the name is everything before the '='
+    EXPECT_EQ(f0GetParam(t.get(), "min_f0"), 75.5f);
+    EXPECT_EQ(f0GetParam(t.get(), "nothing"), 0.0f);
+    EXPECT_EQ(f0GetParam(t.get(), "cand_thresh"), 0.3f);  // defaults stay
+}
+
+TEST(F0Params, EveryBrokenRuleIsReportedThenInitRefuses) {
+    CerrCapture capture;
+    EXPECT_FALSE(
+        initTracker(22050, {"cand_thresh=1", "wind_dur=0.2", "n_cands=2", "max_f0=40", "min_f0=50", "frame_step=0.2"}));
+    EXPECT_EQ(capture.text(),
+              "F0: cand_thresh parameter must be between [0.01, 0.99].\n"
+              "F0: wind_dur parameter must be between [0.0001, 0.1].\n"
+              "F0: n_cands parameter must be between [3,100].\n"
+              "F0: min(max)_f0 parameter inconsistent with record frequency\n"
+              "F0: frame_step parameter must be between [1/sampFreq, 0.1]\n"
+              "F0: invalid/inconsistent parameters -- exiting.\n");
+}
+
+TEST(F0Params, RangeBoundariesOfTheF0Limits) {
+    float pars[f0NumParams];
+    for (int i = 0; i < f0NumParams; ++i) pars[i] = f0ParamDefaults[i].value;
+    CerrCapture capture;
+    pars[kMinF0] = 2.0f;  // min_f0 = sampFreq/10000 exactly passes
+    EXPECT_TRUE(f0CheckParams(pars, 20000));
+    EXPECT_TRUE(capture.text().empty());
+    pars[kMinF0] = 1.99f;
+    EXPECT_FALSE(f0CheckParams(pars, 20000));
+    pars[kMinF0] = 60.0f;
+    pars[kMaxF0] = 10000.0f;  // max_f0 = sampFreq/2 exactly fails
+    EXPECT_FALSE(f0CheckParams(pars, 20000));
+    pars[kMaxF0] = 60.0f;  // and so does max_f0 = min_f0
+    EXPECT_FALSE(f0CheckParams(pars, 20000));
+}
+
+TEST(F0Params, TheFrameStepIsSnappedToWholeSamplesBeforeItsRangeIsTested) {
+    CerrCapture capture;
+    float pars[f0NumParams];
+    for (int i = 0; i < f0NumParams; ++i) pars[i] = f0ParamDefaults[i].value;
+    pars[kFrameStep] = 0.7f / 8192;  // 0.7 samples: below 1/sampFreq until snapped to one sample
+    EXPECT_TRUE(f0CheckParams(pars, 8192));
+    EXPECT_EQ(pars[kFrameStep], 1.0f / 8192);
+    pars[kFrameStep] = 0.01006f;  // 80.48 samples at 8000 Hz become 80
+    EXPECT_TRUE(f0CheckParams(pars, 8000));
+    EXPECT_EQ(pars[kFrameStep], static_cast<float>(80 / 8000.0));
+    EXPECT_TRUE(capture.text().empty());
+}
+
+TEST(F0Init, AnLpcOrderAbove50IsLimitedWithAMessage) {
+    CerrCapture capture;
+    const auto t = systemTracker(96000);
+    ASSERT_TRUE(t);
+    EXPECT_EQ(t->lpcOrder, 50);
+    EXPECT_EQ(capture.text(), "F0: Optimum order limited to 50\n");
+}
+
+TEST(F0Init, RingAndConvergenceSizesFollowTheFloatStep) {
+    // The step 245/22050 s stored as a float lies just above 1/90, so 1.5 s holds 134 frames, not 135.
+    const auto t = systemTracker(22050);
+    const float stepSec = static_cast<float>(245 / 22050.0);
+    EXPECT_EQ(t->frameAlloc, static_cast<int>(1.5 / stepSec));
+    EXPECT_EQ(t->frameAlloc, 134);
+    EXPECT_EQ(t->minConvFrames, 44);
+    EXPECT_EQ(t->maxConvFrames, 89);
+    EXPECT_EQ(static_cast<int>(t->frames.size()), t->frameAlloc);
+    EXPECT_EQ(t->curFrm->next, t->head);
+    EXPECT_EQ(t->head, t->frames.front().get());
+}
+
+using F0DeathTest = ::testing::Test;
+
+TEST_F(F0DeathTest, PreconditionsEndTheProgramNamingTheExpression) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto initBelow4000 = [] {
+        auto t = f0Create();
+        int size = 0;
+        int step = 0;
+        f0Init(t.get(), 3000, &size, &step);  // no decimation filter below 4000 Hz
+    };
+    EXPECT_DEATH(initBelow4000(), "Assertion failed: filter");
+    const auto t = systemTracker(22050);
+    const float sample = 0.0f;
+    EXPECT_DEATH(f0Process(t.get(), &sample, 0), "nData > 0");
+    EXPECT_DEATH(f0GetOutput(t.get(), t->nOutput), "0 <= idx && idx < f0Obj->nOutput");
+}
+
+TEST(F0Process, AShortFirstBufferIsTheLastAndReleasesEveryFrame) {
+    auto t = systemTracker(22050);
+    const std::vector<float> data = sine(22050, 150, 0.25);
+    const int n = t->buffSize - 1;
+    ASSERT_EQ(f0Process(t.get(), data.data(), n), 1);
+    EXPECT_EQ(f0NumOutput(t.get()), (n - t->tailSize) / t->frameStep);
+    EXPECT_EQ(t->nPending, 0);
+}
+
+TEST(F0Process, ALastBufferWithoutFramesStillReleasesWhatIsPending) {
+    auto t = systemTracker(22050);
+    const std::vector<float> data = sine(22050, 150, 0.5);
+    ASSERT_EQ(f0Process(t.get(), data.data(), t->buffSize), 1);
+    EXPECT_EQ(f0NumOutput(t.get()), 0);  // 16 pending frames are fewer than minConvFrames
+    EXPECT_EQ(t->nPending, 16);
+    ASSERT_EQ(f0Process(t.get(), data.data() + t->buffStep, t->tailSize), 1);
+    EXPECT_EQ(f0NumOutput(t.get()), 16);
+    EXPECT_NEAR(f0GetOutput(t.get(), 8).f0, 150.0f, 1.5f);
+}
+
+TEST(F0Process, RecordsComeOutOldestFirst) {
+    auto t = systemTracker(22050);
+    std::vector<float> data = sine(22050, 200, 0.3);
+    for (std::size_t i = 0; i < data.size(); ++i) data[i] = std::round(data[i] * static_cast<float>(i) / 6615.0f);
+    ASSERT_EQ(f0Process(t.get(), data.data(), t->buffSize - 1), 1);
+    ASSERT_GT(f0NumOutput(t.get()), 5);
+    for (int i = 3; i < f0NumOutput(t.get()); ++i)
+        EXPECT_GT(f0GetOutput(t.get(), i).rms, f0GetOutput(t.get(), i - 1).rms);
+}
+
+TEST(F0Process, TheRingGrowsSixTimesAtMostWhenConvergenceIsLate) {
+    auto t = systemTracker(22050);
+    CerrCapture capture;
+    for (int i = 1; i <= 6; ++i) {
+        ASSERT_EQ(f0ExtendFrames(t.get()), 1);
+        EXPECT_EQ(static_cast<int>(t->frames.size()), (i + 1) * t->frameAlloc);
+    }
+    EXPECT_EQ(f0ExtendFrames(t.get()), 0);
+    EXPECT_EQ(capture.text(),
+              "F0: too many requests (6) for space allocation\n There may be a problem in finding converged path\n");
+    // The new frames lie between the newest frame and head, in one ring.
+    int count = 1;
+    for (F0Frame* f = t->head->next; f != t->head; f = f->next) ++count;
+    EXPECT_EQ(count, 7 * t->frameAlloc);
+}
+
+// --- The path search ---
+
+namespace {
+
+// Frames made by hand for the path search: each a list of (lag, cost) candidates.
+struct HandRing {
+    std::unique_ptr<F0Obj> t = systemTracker(22050);
+    std::vector<F0Frame*> frames;  // oldest first, linked after t->curFrm as processed frames
+
+    F0Frame* add(std::vector<F0Cand> cands) {
+        F0Frame* frm = frameAdvance(&t->curFrm);
+        for (std::size_t i = 0; i < cands.size(); ++i) frm->cands[i] = cands[i];
+        frm->nCands = static_cast<int>(cands.size());
+        frames.push_back(frm);
+        ++t->nPending;
+        return frm;
+    }
+};
+
+}  // namespace
+
+TEST(F0PathSearch, TransitionCostsFollowTheVoicingOfBothEnds) {
+    HandRing ring;
+    F0Obj& t = *ring.t;
+    const F0Stat stat{0.25f, 100.0f, 4.0f};
+    F0Frame* prev = ring.add({{100, 0.5f, 0}, {-1, 0.25f, 0}});
+    F0Frame* cur = ring.add({{200, 0.0f, 0}, {-1, 1.0f, 0}});
+    f0DpStep(&t, stat, cur, prev);
+    // Voiced after voiced, one octave up: double_cost plus the distance of log(2) from the float log(2).
+    const float r = static_cast<float>(std::log(2.0));
+    const float octave = static_cast<float>(0.35f + std::fabs(r - 0.6931471824645996)) * t.freqWeightScaled;
+    const float fromVoiceless = 0.25f * 0.5f + 0.005f + 0.5f / 4.0f;
+    const float fromVoiced = 0.25f * 0.5f + 0.005f + 0.5f * 4.0f;
+    const float viaVoiced = octave + 0.5f;
+    const float viaVoiceless = fromVoiceless + 0.25f;
+    EXPECT_EQ(cur->cands[0].cost, std::min(viaVoiced, viaVoiceless));
+    EXPECT_EQ(cur->cands[0].prevIdx, viaVoiced < viaVoiceless ? 0 : 1);
+    EXPECT_EQ(cur->cands[1].cost, 1.0f + std::min(fromVoiced + 0.5f, 0.0f + 0.25f));
+    EXPECT_EQ(cur->cands[1].prevIdx, 1);
+}
+
+TEST(F0PathSearch, TiesGoToTheLowestIndexAndAFirstFrameKeepsItsCosts) {
+    HandRing ring;
+    F0Frame* first = ring.add({{100, 0.5f, 9}, {-1, 0.2f, 9}});
+    f0DpStep(ring.t.get(), F0Stat{}, first, framePrev(first));  // the previous frame has no candidates
+    EXPECT_EQ(first->cands[0].cost, 0.5f);
+    EXPECT_EQ(first->cands[0].prevIdx, 0);
+    EXPECT_EQ(first->cands[1].prevIdx, 0);
+    F0Frame* next = ring.add({{-1, 0.0f, 0}});
+    first->cands[0] = {-1, 0.2f, 0};  // two voiceless predecessors of equal cost
+    f0DpStep(ring.t.get(), F0Stat{}, next, first);
+    EXPECT_EQ(next->cands[0].prevIdx, 0);
+    EXPECT_EQ(next->cands[0].cost, 0.2f);
+}
+
+TEST(F0PathSearch, ConvergenceIsFoundWhereAllPathsMeet) {
+    HandRing ring;
+    F0Obj& t = *ring.t;
+    t.minConvFrames = 3;
+    // Frame 0 is head; both candidates of frame 2 lead back to candidate 1 of frame 1.
+    ring.add({{100, 0, 0}, {-1, 0, 0}});
+    ring.add({{100, 0, 0}, {-1, 0, 0}});
+    F0Frame* newest = ring.add({{100, 2, 1}, {-1, 1, 1}});
+    F0Frame* conv = nullptr;
+    int path = -1;
+    ASSERT_EQ(f0FindConverged(&t, newest, 0, &conv, &path), 1);
+    EXPECT_EQ(conv, ring.frames[1]);
+    EXPECT_EQ(path, 1);
+    // With isLast the newest frame's best candidate starts the path; no merge is looked for.
+    ASSERT_EQ(f0FindConverged(&t, newest, 1, &conv, &path), 1);
+    EXPECT_EQ(conv, newest);
+    EXPECT_EQ(path, 1);
+    // Too few pending frames: nothing yet.
+    t.minConvFrames = 4;
+    EXPECT_EQ(f0FindConverged(&t, newest, 0, &conv, &path), 0);
+}
+
+TEST(F0PathSearch, PathsMeetingAtHeadReleaseOneFrameAndLateOnesAreForced) {
+    HandRing ring;
+    F0Obj& t = *ring.t;
+    t.minConvFrames = 1;
+    ring.add({{100, 0, 0}, {-1, 0, 0}});
+    F0Frame* newest = ring.add({{100, 5, 0}, {-1, 3, 1}});  // paths part at frame 1, meet nowhere else
+    F0Frame* conv = nullptr;
+    int path = -1;
+    t.maxConvFrames = 3;
+    EXPECT_EQ(f0FindConverged(&t, newest, 0, &conv, &path), 0);
+    t.maxConvFrames = 2;
+    ASSERT_EQ(f0FindConverged(&t, newest, 0, &conv, &path), 1);
+    EXPECT_EQ(conv, newest);
+    EXPECT_EQ(path, 1);
+
+    HandRing meeting;
+    meeting.t->minConvFrames = 1;
+    meeting.add({{100, 0, 0}, {-1, 0, 0}});
+    F0Frame* last = meeting.add({{100, 5, 1}, {-1, 3, 1}});
+    ASSERT_EQ(f0FindConverged(meeting.t.get(), last, 0, &conv, &path), 1);
+    EXPECT_EQ(conv, meeting.t->head);
+    // A single candidate converges at once on the frame before the newest.
+    HandRing single;
+    single.t->minConvFrames = 1;
+    single.add({{-1, 0, 0}});
+    single.add({{-1, 0, 0}});
+    F0Frame* only = single.add({{-1, 0, 0}});
+    ASSERT_EQ(f0FindConverged(single.t.get(), only, 0, &conv, &path), 1);
+    EXPECT_EQ(conv, single.frames[1]);
+}
+
+TEST(F0PathSearch, RefineLagTakesTheParabolaVertexExceptAtTheEnds) {
+    const float correl[] = {0.0f, 0.25f, 1.0f, 0.5f, 0.9f};
+    // Lag 12 with firstLag 10: y0 0.25, y1 1, y2 0.5; the vertex lies (y0 - y2)/d = 0.1 above the lag.
+    const float d = (0.5f + 0.25f - 2 * 1.0f) * 2;
+    EXPECT_EQ(f0RefineLag(correl, 12, 10, 14), static_cast<float>(12 + 2.0 - (5 * 0.5f + 3 * 0.25f - 8 * 1.0f) / d));
+    EXPECT_NEAR(f0RefineLag(correl, 12, 10, 14), 12.1, 1e-5);
+    EXPECT_EQ(f0RefineLag(correl, 10, 10, 14), 10.0f);
+    EXPECT_EQ(f0RefineLag(correl, 14, 10, 14), 14.0f);
+    const float flat[] = {1.0f, 1.0f, 1.0f};
+    EXPECT_EQ(f0RefineLag(flat, 6, 5, 9), 6.0f);
+}
+
+TEST(F0Rounding, HalvesGoAwayFromZeroAndTruncationTowardIt) {
+    EXPECT_EQ(f0Round(2.5), 3);
+    EXPECT_EQ(f0Round(-2.5), -3);
+    EXPECT_EQ(f0Round(-2.4), -2);
+    EXPECT_EQ(f0Trunc(-2.9), -2);
+    EXPECT_EQ(f0Trunc(1e300), INT_MAX);
+}

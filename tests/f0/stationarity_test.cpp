@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "F0TestSupport.h"
+#include "f0/stationarity.h"
+
+TEST(Stationarity, TheFirstFramesHaveNoPastThenAFixedDistance) {
+    auto t = systemTracker(22050);  // statWindow 661, statLag 441: curPos starts at -110, prevPos at -551
+    const std::vector<float> noise = whiteNoise(static_cast<std::size_t>(t->buffSize), 5000.0);
+    ASSERT_EQ(stationarityCompute(t.get(), noise.data(), t->buffSize, t->framesPerBuff), 1);
+    EXPECT_EQ(t->stat[0].stat, 0.002f);
+    EXPECT_EQ(t->stat[0].rms, 0.0f);
+    EXPECT_EQ(t->stat[0].rmsRatio, 1.0f);
+    for (int i : {1, 2}) {  // curPos 135 and 380: a current window but no earlier one
+        EXPECT_EQ(t->stat[i].stat, static_cast<float>(0.2 / 10.0f));
+        EXPECT_EQ(t->stat[i].rmsRatio, 1.0f);
+        EXPECT_GT(t->stat[i].rms, 0.0f);
+    }
+    EXPECT_NE(t->stat[3].stat, static_cast<float>(0.2 / 10.0f));
+    EXPECT_EQ(t->statPrimed, 1);
+    // The lower half of the carry-over ends where the next buffer's first frame starts.
+    const int half = t->statMemSize / 2;
+    EXPECT_EQ(t->statMem[half - 1], noise[static_cast<std::size_t>(t->buffStep) - 1]);
+    EXPECT_EQ(t->statMem[0], noise[static_cast<std::size_t>(t->buffStep - half)]);
+}
+
+TEST(Stationarity, AnOnsetRaisesTheRmsRatio) {
+    auto t = systemTracker(22050);
+    const std::vector<float> silence(661, 0.0f);
+    const std::vector<float> tone = sine(22050, 200, 0.03);
+    const F0Stat fromSilence = stationarityFrame(t.get(), silence.data(), tone.data(), 661);
+    EXPECT_EQ(fromSilence.rmsRatio, 2.0f);  // earlier RMS 0, current above 0
+    auto quiet = systemTracker(22050);
+    const F0Stat bothSilent = stationarityFrame(quiet.get(), silence.data(), silence.data(), 661);
+    EXPECT_EQ(bothSilent.rmsRatio, 1.0f);
+    auto fresh = systemTracker(22050);
+    std::vector<float> soft = tone;
+    for (float& s : soft) s = std::round(s / 10);
+    const F0Stat onset = stationarityFrame(fresh.get(), soft.data(), tone.data(), 661);
+    EXPECT_NEAR(onset.rmsRatio, 10.0f, 0.1f);
+}
+
+TEST(Stationarity, TheRingKeepsTheNewestAndHandsOutTheOldestWhenFull) {
+    auto t = systemTracker(22050);
+    ASSERT_EQ(windStatInit(t.get(), 2), 1);
+    float autoc[BIGSORD + 1] = {};
+    float err = 0.0f, rms = 0.0f;
+    const float first[BIGSORD + 1] = {1.0f, 0.5f};
+    const float second[BIGSORD + 1] = {1.0f, 0.25f};
+    const float third[BIGSORD + 1] = {1.0f, 0.125f};
+    windStatStore(t.get(), first, t->lpcOrder, 1.0f, 10.0f);
+    EXPECT_EQ(windStatOldest(t.get(), autoc, t->lpcOrder, &err, &rms), 0);  // not full yet
+    windStatStore(t.get(), second, t->lpcOrder, 2.0f, 20.0f);
+    windStatStore(t.get(), third, t->lpcOrder, 3.0f, 30.0f);
+    ASSERT_EQ(windStatOldest(t.get(), autoc, t->lpcOrder, &err, &rms), 1);
+    EXPECT_EQ(autoc[1], 0.25f);
+    EXPECT_EQ(err, 2.0f);
+    EXPECT_EQ(rms, 20.0f);
+    ASSERT_EQ(windStatInit(t.get(), 0), 1);
+    EXPECT_EQ(windStatStore(t.get(), first, t->lpcOrder, 1.0f, 1.0f), 0);
+}
+
+TEST(Stationarity, PolynomialAutocorrelationCountsBothSides) {
+    // 1 + x + 2x^2: lag 0 is 1 + 1 + 4, lag 1 is 1*1 + 1*2, lag 2 is 1*2; the lags are doubled.
+    const float a[] = {1.0f, 2.0f};
+    float c[3];
+    polyAutocorr(a, c, 2);
+    EXPECT_EQ(c[0], 6.0f);
+    EXPECT_EQ(c[1], 6.0f);
+    EXPECT_EQ(c[2], 4.0f);
+}
+
+TEST(Stationarity, ASpectrumMeasuredAgainstItselfHasAnItakuraRatioOfOne) {
+    // The inverse filter of a window's own LPC leaves exactly its residual: the ratio is 1 and dist is 0.2.
+    SigprocCache cache;
+    const std::vector<float> data = whiteNoise(700, 3000.0, 11);
+    std::vector<float> smooth(data.size());
+    for (std::size_t i = 1; i < data.size(); ++i) smooth[i] = std::round(0.9f * smooth[i - 1] + data[i]);
+    float a[BIGSORD + 1], r[BIGSORD + 1], err = 0.0f;
+    ASSERT_EQ(lpc(cache, smooth.data(), 660, 24, 1, 0.4f, 30.0f, a, r, nullptr, &err), 1);
+    EXPECT_NEAR(itakuraRatio(a, r, err, 24), 1.0f, 1e-3);
+}

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include "FakePrompt.h"
+#include "TempDir.h"
+#include "WaveBytes.h"
+#include "store/OpenOtherFile.h"
+
+using namespace wavebytes;
+
+namespace {
+
+StereoChooser choose(std::optional<StereoChoice> choice, int* asked = nullptr) {
+    return [choice, asked] {
+        if (asked) ++*asked;
+        return choice;
+    };
+}
+
+const std::string kRate = "File rate must be 44100 Hz, 22050 Hz or 11025 Hz!";
+const std::string kBits = "The file must be 16 Bits";
+
+}  // namespace
+
+TEST(OpenOtherFile, RateIsTestedFirstThenTheWidth) {
+    struct Row {
+        std::uint32_t rate;
+        std::uint16_t bits;
+        std::string message;  // empty: opens
+    };
+    const std::vector<Row> rows = {{44100, 16, ""},   {22050, 16, ""},    {11025, 16, ""},
+                                   {8000, 16, kRate}, {48000, 16, kRate}, {22051, 16, kRate},
+                                   {8000, 8, kRate},  {22050, 8, kBits},  {44100, 24, kBits}};
+    TempDir dir;
+    for (const Row& row : rows) {
+        FakePrompt prompt;
+        dir.write("f.wav", simpleWave(1, row.rate, pcm16({1, 2, 3, 4, 5, 6}), row.bits));
+        LoadedRecording recording;
+        int asked = 0;
+        const OtherFileOpening opening =
+            OpenOtherFile(recording, dir / "f.wav", choose(StereoChoice::Mix, &asked), prompt);
+        const std::string what = std::to_string(row.rate) + " Hz " + std::to_string(row.bits) + " bits";
+        EXPECT_EQ(opening.result, row.message.empty() ? OtherFileResult::Opened : OtherFileResult::Refused) << what;
+        EXPECT_EQ(prompt.shown,
+                  row.message.empty() ? std::vector<std::string>{} : std::vector<std::string>{row.message})
+            << what;
+        EXPECT_EQ(recording.SampleCount(), row.message.empty() ? 6u : 0u) << what;
+        EXPECT_EQ(asked, 0) << what;
+    }
+}
+
+TEST(OpenOtherFile, StereoIsFoldedAsChosenAndMarked) {
+    TempDir dir;
+    FakePrompt prompt;
+    const auto path = dir / "stereo.wav";
+    dir.write("stereo.wav", simpleWave(2, 22050, pcm16({-1, 1, -3, 0, 32767, 32767, -32768, -32767, 7, 8})));
+    LoadedRecording recording;
+    recording.RecordingNumber = 4;
+    recording.Modified = true;
+    const OtherFileOpening mixed = OpenOtherFile(recording, path, choose(StereoChoice::Mix), prompt);
+    ASSERT_EQ(mixed.result, OtherFileResult::Opened);
+    EXPECT_EQ(mixed.title, "File - " + path.string());
+    EXPECT_EQ(std::vector<std::int16_t>(recording.samples().begin(), recording.samples().end()),
+              (std::vector<std::int16_t>{0, -1, 32767, -32767, 7}));  // truncated toward zero
+    EXPECT_EQ(*recording.format(), (WaveFormat{1, 1, 22050, 44100, 2, 16, 0, {}}));
+    EXPECT_TRUE(recording.OpenedStereoAsMono);
+    EXPECT_EQ(recording.RecordingNumber, -1);
+    EXPECT_EQ(recording.RecordingPath, path);
+    EXPECT_FALSE(recording.Modified);
+
+    OpenOtherFile(recording, path, choose(StereoChoice::Left), prompt);
+    EXPECT_EQ(recording.samples()[2], 32767);
+    EXPECT_EQ(recording.samples()[4], 7);
+    OpenOtherFile(recording, path, choose(StereoChoice::Right), prompt);
+    EXPECT_EQ(recording.samples()[3], -32767);
+    EXPECT_EQ(recording.samples()[4], 8);
+
+    dir.write("mono.wav", simpleWave(1, 11025, pcm16({9})));
+    ASSERT_EQ(OpenOtherFile(recording, dir / "mono.wav", choose(std::nullopt), prompt).result, OtherFileResult::Opened);
+    EXPECT_FALSE(recording.OpenedStereoAsMono);
+    EXPECT_TRUE(prompt.shown.empty());
+
+    const OtherFileOpening refused = OpenOtherFile(recording, path, choose(std::nullopt), prompt);
+    EXPECT_EQ(refused.result, OtherFileResult::Refused);
+    EXPECT_EQ(prompt.shown, std::vector<std::string>{"The file can´t be opened!"});
+    EXPECT_FALSE(recording.hasSamples());
+}
+
+TEST(OpenOtherFile, AnUnreadableFileShowsNothingAndLeavesTheRecordingAlone) {
+    TempDir dir;
+    FakePrompt prompt;
+    dir.write("good.wav", simpleWave(1, 44100, pcm16({1, 2})));
+    dir.write("bad.wav", "RIFF....WAVEjunk");
+    LoadedRecording recording;
+    ASSERT_EQ(recording.LoadSamples(dir / "good.wav"), 1);
+    EXPECT_EQ(OpenOtherFile(recording, dir / "bad.wav", choose(StereoChoice::Mix), prompt).result,
+              OtherFileResult::Unreadable);
+    EXPECT_TRUE(prompt.shown.empty());
+    EXPECT_EQ(recording.SampleCount(), 2u);
+}
+
+TEST(LoadSamples, AClientFolderFileIsTakenAsItStands) {
+    TempDir dir;
+    dir.write("PAC001/WV001.WAV", simpleWave(2, 48000, pcm16({1, 2, 3, 4}), 8));
+    LoadedRecording recording;
+    ASSERT_EQ(recording.LoadSamples(dir / "pac001/wv001.wav"), 1);
+    EXPECT_EQ(recording.SampleCount(), 4u);  // stereo stays interleaved: twice the apparent duration
+    EXPECT_EQ(recording.format()->nChannels, 2);
+    dir.write("empty.wav", simpleWave(1, 22050, ""));
+    ASSERT_EQ(recording.LoadSamples(dir / "empty.wav"), 1);
+    EXPECT_FALSE(recording.hasSamples());  // the view answers this with "Error Reading File"
+}

@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <set>
+
+#include "FakePrompt.h"
+#include "TempDir.h"
+#include "store/RecordingDeletion.h"
+
+namespace {
+
+std::set<std::string> filesIn(const std::filesystem::path& folder) {
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        names.insert(entry.path().filename().string());
+    return names;
+}
+
+// Makes a file impossible to delete, even for the superuser, while it lives (the file system's immutable flag).
+class UndeletableFile {
+public:
+    explicit UndeletableFile(const std::filesystem::path& path) : m_fd(::open(path.c_str(), O_RDONLY)) {
+        m_set = m_fd >= 0 && setImmutable(true);
+    }
+    ~UndeletableFile() {
+        if (m_set) setImmutable(false);
+        if (m_fd >= 0) ::close(m_fd);
+    }
+    bool active() const { return m_set; }
+
+private:
+    bool setImmutable(bool on) {
+        int flags = 0;
+        if (::ioctl(m_fd, FS_IOC_GETFLAGS, &flags) != 0) return false;
+        flags = on ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
+        return ::ioctl(m_fd, FS_IOC_SETFLAGS, &flags) == 0;
+    }
+    int m_fd;
+    bool m_set = false;
+};
+
+const std::vector<std::string_view> kAllSix = {".wav", ".ddt", ".mrk", ".txt", ".bkp", ".rtf"};
+
+void makeRecording(const TempDir& root, const std::string& stem) {
+    for (auto extension : kAllSix) root.write(stem + std::string(extension), "x");
+}
+
+}  // namespace
+
+TEST(DeleteFromView, WvKeepsItsNotesQvLosesThemAndOtherFilesGoByPath) {
+    TempDir root;
+    FakePrompt prompt;
+    makeRecording(root, "pac001/wv001");
+    makeRecording(root, "pac001/qv002");
+    EXPECT_TRUE(DeleteRecordingFilesFromView({root.path(), 1}, 1, root / "pac001/wv001.wav", prompt));
+    EXPECT_TRUE(DeleteRecordingFilesFromView({root.path(), 1}, 2, root / "pac001/qv002.wav", prompt));
+    EXPECT_EQ(filesIn(root / "pac001"),
+              (std::set<std::string>{"wv001.txt", "wv001.bkp", "wv001.rtf", "qv002.bkp", "qv002.rtf"}));
+
+    root.touch({"Other Files/Take One.WAV", "Other Files/Take One.ddt", "Other Files/Take One.mrk",
+                "Other Files/Take One.txt"});
+    EXPECT_TRUE(
+        DeleteRecordingFilesFromView({root.path(), OutsideClientCode}, 5, root / "Other Files/Take One.WAV", prompt));
+    EXPECT_EQ(filesIn(root / "Other Files"), std::set<std::string>{"Take One.txt"});
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST(DeleteFromList, SoundNotesAndDateGoTheLabelsStayAndABackupIsRefused) {
+    TempDir root;
+    FakePrompt prompt;
+    makeRecording(root, "pac002/WV001");  // copied from Windows
+    makeRecording(root, "pac002/qv002");
+    prompt.answers = {false, true, true};
+    EXPECT_FALSE(DeleteRecordingFilesFromList({root.path(), 2}, 1, FileKind::WvWithDate, prompt));
+    EXPECT_EQ(filesIn(root / "pac002").size(), 12u);  // No: nothing happens
+    EXPECT_TRUE(DeleteRecordingFilesFromList({root.path(), 2}, 1, FileKind::WvWithoutDate, prompt));
+    EXPECT_TRUE(DeleteRecordingFilesFromList({root.path(), 2}, 2, FileKind::QvWithDate, prompt));
+    EXPECT_EQ(filesIn(root / "pac002"),
+              (std::set<std::string>{"WV001.mrk", "WV001.bkp", "WV001.rtf", "qv002.mrk", "qv002.bkp", "qv002.rtf"}));
+    EXPECT_EQ(prompt.shown, std::vector<std::string>(3, std::string(kConfirmDeleteRecording)));
+
+    prompt.shown.clear();
+    EXPECT_FALSE(DeleteRecordingFilesFromList({root.path(), 2}, 1, FileKind::SentToBackup, prompt));
+    EXPECT_EQ(prompt.shown, std::vector<std::string>{"This file was send to Backup!\nIt´s necessary to attach backup "
+                                                     "files to access this file!"});
+    EXPECT_EQ(filesIn(root / "pac002").size(), 6u);
+}
+
+TEST(DeleteFromView, ASoundThatCannotBeDeletedIsReportedAndItsSideFilesGoAnyway) {
+    TempDir root;
+    FakePrompt prompt;
+    makeRecording(root, "pac003/wv004");
+    UndeletableFile stuck(root / "pac003/wv004.wav");
+    if (!stuck.active()) GTEST_SKIP() << "the file system cannot mark a file undeletable here";
+    EXPECT_FALSE(DeleteRecordingFilesFromView({root.path(), 3}, 4, root / "pac003/wv004.wav", prompt));
+    EXPECT_EQ(prompt.shown, std::vector<std::string>{"Error deleting File!"});
+    EXPECT_EQ(filesIn(root / "pac003"), (std::set<std::string>{"wv004.wav", "wv004.txt", "wv004.bkp", "wv004.rtf"}));
+}
+
+TEST(DeleteClient, WildcardsRemoveTheirFilesInAnyCase) {
+    TempDir root;
+    root.touch({"pac009/wv001.wav", "pac009/QV002.WAV", "pac009/wv001.txt", "pac009/wv001.ddt", "pac009/wv001.mrk",
+                "pac009/report.rtf", "pac009/wv001.f0", "pac009/wv001.bkp", "pac009/conf.dat", "pac009/a.wave"});
+    EXPECT_TRUE(DeleteMatchingFiles(root / "pac009", kClientListDeletePatterns));
+    EXPECT_EQ(filesIn(root / "pac009"), (std::set<std::string>{"wv001.bkp", "conf.dat", "a.wave"}));
+    EXPECT_TRUE(DeleteMatchingFiles(root / "pac009", kClientMenuDeletePatterns));
+    EXPECT_EQ(filesIn(root / "pac009"), (std::set<std::string>{"wv001.bkp", "a.wave"}));
+}

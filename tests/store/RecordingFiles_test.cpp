@@ -1,0 +1,176 @@
+#include <gtest/gtest.h>
+
+#include "FakePrompt.h"
+#include "TempDir.h"
+#include "store/FileTimes.h"
+#include "store/LoadedRecording.h"
+#include "store/RecordingFiles.h"
+
+namespace {
+
+const std::string kTooMany = "Number of files exceeds to 150!\nInsert a new client to continue...";
+
+std::string name(const char* prefix, int number, const char* extension) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%s%03d.%s", prefix, number, extension);
+    return text;
+}
+
+}  // namespace
+
+TEST(RecordingPaths, StemFollowsTheRateAndTheCodeHasAtLeastThreeDigits) {
+    const std::filesystem::path root = "/data";
+    EXPECT_EQ(RecordingStemPath({root, 7}, 1, 44100), root / "pac007" / "qv001.wav");
+    EXPECT_EQ(RecordingStemPath({root, 7}, 12, 22050), root / "pac007" / "wv012.wav");
+    EXPECT_EQ(RecordingStemPath({root, 7}, 150, 44101), root / "pac007" / "wv150.wav");
+    EXPECT_EQ(RecordingStemPath({root, 1234}, 3, 11025), root / "pac1234" / "wv003.wav");
+    EXPECT_EQ(RecordingStemPath({root, OutsideClientCode}, 2, 44100), root / "Other Files" / "qv002.wav");
+    EXPECT_EQ(ScratchRecordingPath(root), root / "grav.tmp");
+}
+
+TEST(RecordingNumbering, GapsAreNeverReusedAndAnyOfFourFilesTakesANumber) {
+    TempDir root;
+    FakePrompt prompt;
+    const ClientFolder client{root.path(), 7};
+    EXPECT_EQ(NextRecordingNumber(client, prompt), 1);  // no folder yet
+    root.touch({"pac007/wv001.wav", "pac007/wv002.wav", "pac007/wv009.wav", "pac007/wv010.ddt"});
+    EXPECT_EQ(NextRecordingNumber(client, prompt), 10);  // holes are not reused; a date file takes no number
+    root.touch({"pac007/qv010.bkp"});
+    EXPECT_EQ(NextRecordingNumber(client, prompt), 11);
+    root.touch({"pac007/WV011.WAV"});  // a folder copied from Windows
+    EXPECT_EQ(NextRecordingNumber(client, prompt), 12);
+    root.touch({"pac007/qv026.wav"});  // 14 free numbers (12..25) do not end the scan
+    EXPECT_EQ(NextRecordingNumber(client, prompt), 27);
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST(RecordingNumbering, SixteenFreeNumbersEndTheScan) {
+    TempDir root;
+    FakePrompt prompt;
+    root.touch({"pac007/wv017.wav"});
+    EXPECT_EQ(NextRecordingNumber({root.path(), 7}, prompt), 1);  // 1..16 free: 17 is never seen
+    root.touch({"pac007/wv016.wav"});
+    EXPECT_EQ(NextRecordingNumber({root.path(), 7}, prompt), 18);
+}
+
+TEST(RecordingNumbering, NumberingStopsAt150WithTheMessage) {
+    TempDir root;
+    FakePrompt prompt;
+    for (int n = 1; n <= 149; n += 10) root.touch({"pac003/" + name("wv", n, "wav")});
+    root.touch({"pac003/" + name("qv", 149, "bkp")});
+    EXPECT_EQ(NextRecordingNumber({root.path(), 3}, prompt), 150);
+    EXPECT_TRUE(prompt.shown.empty());
+    root.touch({"pac003/" + name("wv", 150, "wav")});
+    EXPECT_EQ(NextRecordingNumber({root.path(), 3}, prompt), -1);
+    EXPECT_EQ(prompt.shown, std::vector<std::string>{kTooMany});
+    EXPECT_EQ(NextRecordingNumber({root.path(), kNoClient}, prompt), -1);  // no client: nothing, silently
+    EXPECT_EQ(prompt.shown.size(), 1u);
+}
+
+TEST(NewRecordingPath, ClientGetsTheStemOfTheRateAndOtherFilesTheScratchName) {
+    TempDir root;
+    FakePrompt prompt;
+    root.touch({"pac005/qv001.wav", "Other Files/wv004.bkp"});
+    LoadedRecording recording;
+    std::string title;
+    ASSERT_EQ(NewRecordingPath(recording, title, {root.path(), 5}, "Ana Lima", 44100, prompt), 1);
+    EXPECT_EQ(recording.RecordingNumber, 2);
+    EXPECT_EQ(recording.RecordingPath, root / "pac005" / "qv002.wav");
+    EXPECT_EQ(title, "Ana Lima  File - 2");
+    ASSERT_EQ(NewRecordingPath(recording, title, {root.path(), 5}, "Ana Lima", 22050, prompt), 1);
+    EXPECT_EQ(recording.RecordingPath, root / "pac005" / "wv002.wav");
+
+    ASSERT_EQ(NewRecordingPath(recording, title, {root.path(), OutsideClientCode}, "default", 22050, prompt), 1);
+    EXPECT_EQ(recording.RecordingNumber, 5);  // numbering still runs, in "Other Files"
+    EXPECT_EQ(recording.RecordingPath, root / "Other Files" / "grav.tmp");
+    EXPECT_EQ(title, "");
+
+    for (int n = 1; n <= 150; n += 7) root.touch({"pac006/" + name("qv", n, "wav")});  // 1, 8, ..., 148
+    root.touch({"pac006/wv150.wav"});
+    title = "kept";
+    EXPECT_EQ(NewRecordingPath(recording, title, {root.path(), 6}, "Rui", 22050, prompt), 0);
+    EXPECT_EQ(recording.RecordingPath, root / "Other Files" / "grav.tmp");  // left alone
+    EXPECT_EQ(title, "kept");
+    EXPECT_EQ(prompt.last(), kTooMany);
+}
+
+TEST(ProbeRecording, FileKindFollowsWhatLiesOnDisk) {
+    struct Row {
+        std::vector<std::string> files;
+        bool exists;
+        FileKind kind;
+    };
+    const std::vector<Row> rows = {
+        {{}, false, {}},
+        {{"wv001.ddt", "qv001.ddt", "wv001.txt"}, false, {}},
+        {{"wv001.wav"}, true, FileKind::WvWithoutDate},
+        {{"wv001.wav", "wv001.ddt"}, true, FileKind::WvWithDate},
+        {{"wv001.wav", "wv001.ddt", "qv001.wav"}, true, FileKind::WvWithoutDate},  // the qv date file counts
+        {{"wv001.wav", "qv001.wav", "qv001.ddt"}, true, FileKind::WvWithDate},
+        {{"wv001.wav", "wv001.bkp"}, true, FileKind::WvWithoutDate},  // the sound wins over a stale backup
+        {{"wv001.bkp"}, true, FileKind::SentToBackup},
+        {{"qv001.bkp", "qv001.wav", "qv001.ddt"}, true, FileKind::SentToBackup},  // a backup wins over a qv sound
+        {{"qv001.wav"}, true, FileKind::QvWithoutDate},
+        {{"qv001.wav", "qv001.ddt"}, true, FileKind::QvWithDate},
+        {{"qv001.wav", "wv001.ddt"}, true, FileKind::QvWithoutDate},
+        {{"WV001.WAV", "Wv001.Ddt"}, true, FileKind::WvWithDate},
+    };
+    for (const Row& row : rows) {
+        TempDir root;
+        FakePrompt prompt;
+        for (const std::string& file : row.files) root.write("pac009/" + file, "1262304000");
+        const RecordingProbe probe = ProbeRecording({root.path(), 9}, 1, prompt);
+        const std::string what = ::testing::PrintToString(row.files);
+        EXPECT_EQ(probe.exists, row.exists) << what;
+        if (row.exists) {
+            EXPECT_EQ(probe.kind, row.kind) << what;
+        }
+    }
+}
+
+TEST(ProbeRecording, DateComesFromTheDateFileOfTheSoundFoundOrTheFileSystem) {
+    TempDir root;
+    FakePrompt prompt;
+    const ClientFolder client{root.path(), 2};
+    const auto fileDate = [&](const char* file) { return *calendarDateFromUnixTime(*fileCreationTime(root / file)); };
+    root.write("pac002/wv001.wav");
+    root.write("pac002/wv001.ddt", "1262304000");  // 2010-01-01 00:00:00 UTC
+    EXPECT_EQ(ProbeRecording(client, 1, prompt).date, (CalendarDate{2010, 1, 1}));
+    EXPECT_EQ(ProbeRecording(client, 1, prompt).time, 1262304000);
+    root.write("pac002/qv001.wav");  // now the qv date file is the one looked up, and there is none
+    EXPECT_EQ(ProbeRecording(client, 1, prompt).date, fileDate("pac002/qv001.wav"));
+    root.write("pac002/qv001.ddt", "10;10;");  // an import's shape: 10 seconds past 1970
+    EXPECT_EQ(ProbeRecording(client, 1, prompt).date, (CalendarDate{1970, 1, 1}));
+    root.write("pac002/qv001.ddt", "1;1;");  // too short to be a date
+    EXPECT_EQ(ProbeRecording(client, 1, prompt).date, fileDate("pac002/qv001.wav"));
+    root.write("pac002/qv001.ddt", "99999");  // five digits are no date either
+    EXPECT_EQ(ProbeRecording(client, 1, prompt).date, fileDate("pac002/qv001.wav"));
+    root.write("pac002/wv002.bkp");
+    root.write("pac002/wv002.ddt", "1262304000");  // a backup is dated by its marker alone
+    EXPECT_EQ(ProbeRecording(client, 2, prompt).date, fileDate("pac002/wv002.bkp"));
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST(RecordingList, RowsReadTheDateInTheLanguagesOrderAndStopBelow150) {
+    const CalendarDate date{2010, 1, 2};
+    EXPECT_EQ(ListRowText(date, 5, 0), "01/02/2010 File 5");
+    EXPECT_EQ(ListRowText(date, 5, 1), "02/01/2010 File 5");
+    EXPECT_EQ(ListRowText(date, 5, 2), "2010/01/02 File 5");
+    EXPECT_EQ(ListRowText(date, 5, 3), "02/01/2010 File 5");
+    EXPECT_EQ(ListRowText(date, 123, 7), "01/02/2010 File 123");
+
+    TempDir root;
+    FakePrompt prompt;
+    root.write("pac004/qv003.wav");
+    root.write("pac004/qv003.ddt", "951782400");  // 2000-02-29
+    root.touch({"pac004/wv001.wav", "pac004/wv149.bkp", "pac004/wv150.wav"});
+    const std::vector<RecordingListRow> rows = ListRecordings({root.path(), 4}, 1, prompt);
+    ASSERT_EQ(rows.size(), 3u);
+    EXPECT_EQ(rows[0].number, 1);
+    EXPECT_EQ(rows[1].number, 3);
+    EXPECT_EQ(rows[1].kind, FileKind::QvWithDate);
+    EXPECT_EQ(rows[1].sortKey, 20000229);
+    EXPECT_EQ(rows[1].text, "29/02/2000 File 3");
+    EXPECT_EQ(rows[2].number, 149);
+    EXPECT_EQ(rows[2].kind, FileKind::SentToBackup);
+}

@@ -1,0 +1,36 @@
+// Runs a program through the shell and collects what it prints, for tests that check our files against real tools.
+#pragma once
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+struct CommandResult {
+    int exitCode = -1;
+    std::string output;  // standard output only
+};
+
+inline CommandResult runCommand(const std::string& command) {
+    CommandResult result;
+    std::FILE* pipe = ::popen(command.c_str(), "r");
+    if (pipe == nullptr) return result;
+    char buffer[4096];
+    for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) result.output.append(buffer, n);
+    const int status = ::pclose(pipe);
+    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+
+inline bool toolAvailable(std::string_view tool) {
+    return runCommand("command -v " + std::string(tool) + " >/dev/null 2>&1").exitCode == 0;
+}
+
+// A path in single quotes for the shell.
+inline std::string quoted(const std::filesystem::path& path) {
+    std::string out = "'";
+    for (char c : path.string()) out += (c == '\'') ? std::string("'\\''") : std::string(1, c);
+    return out + "'";
+}
