@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QIcon>
 #include <QLabel>
@@ -14,10 +15,18 @@
 
 #include "app/CAFApp.h"
 #include "app/CAboutDlg.h"
+#include "app/CAbrirPaciente.h"
+#include "app/CAbrirSessao.h"
+#include "app/CPaciente.h"
 #include "app/DesktopPrograms.h"
 #include "app/HelpBrowser.h"
+#include "app/TableText.h"
+#include "clients/CPacienteTable.h"
 #include "controls/UiText.h"
+#include "store/FileLookup.h"
 #include "store/Prompt.h"
+#include "store/RecordingDeletion.h"
+#include "store/TextFormat.h"
 #include "view/CAFView.h"
 
 namespace {
@@ -55,14 +64,162 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     createToolBar();
     createStatusBar();
     RecordInput = ReadRecordInput(m_home, 0);
-    f0Range = F0Range{70, 400};
-    setWindowTitle(QGuiApplication::applicationDisplayName());
+    f0Range = kStartF0Range;
+    CurrentClient = PacienteRecord{};
+    // A first start in an empty data root simply has an empty client base.
+    m_table = std::make_unique<CPacienteTable>(m_home, m_prompt);
+    m_table->SetFileName(std::string(kClientTableName));
+    if (!m_table->TableExists()) m_table->CreateTable();
+    setDocumentTitle(QString());
     UpdateCommands();
 }
 
 CMainFrame::~CMainFrame() = default;
 
 bool CMainFrame::isIdle() const { return m_view->isIdle(); }
+
+LanguageId CMainFrame::languageId() const { return m_app.languageId(); }
+
+std::filesystem::path CMainFrame::clientFolderPath() const {
+    return findFileIgnoringCase(ClientFolder{m_home, CurrentClient.Codigo}.path());
+}
+
+void CMainFrame::setDocumentTitle(const QString& title) {
+    const QString program = QGuiApplication::applicationDisplayName();
+    setWindowTitle(title.isEmpty() ? program : title + " - " + program);
+}
+
+void CMainFrame::applyClientTypeRange() {
+    if (CurrentClient.Codigo == OutsideClientCode) {
+        f0Range = kOutsideClientF0Range;
+    } else if (const auto range = ClientTypeRange(CurrentClient.Tipo)) {
+        f0Range = *range;
+    } else {
+        m_prompt.showOk(kUndefinedType);
+    }
+}
+
+// Back to no client: the client commands go off and the view shows nothing.
+void CMainFrame::noClient() {
+    CurrentClient = PacienteRecord{};
+    setDocumentTitle(QString());
+    m_view->ShowEmpty();
+    UpdateCommands();
+}
+
+void CMainFrame::openClient() {
+    CAbrirPaciente list(*this);
+    switch (list.exec()) {
+    case CAbrirPaciente::ClientChosen: openCurrentClient(); break;
+    case CAbrirPaciente::NewClientChosen: newClient(); break;
+    case CAbrirPaciente::OtherFilesChosen: openOtherFiles(); break;
+    default: break;
+    }
+    UpdateCommands();
+}
+
+// Makes CurrentClient the client in work, once its folder is found.
+void CMainFrame::openCurrentClient() {
+    std::error_code error;
+    if (!std::filesystem::is_directory(clientFolderPath(), error)) {
+        m_prompt.showOk(kErrorAccessingClientFolder);
+        noClient();
+        return;
+    }
+    m_view->ShowEmpty();
+    setDocumentTitle(TableTextToScreen(recordText(CurrentClient.Nome), languageId()));
+    UpdateCommands();
+    applyClientTypeRange();
+}
+
+void CMainFrame::openOtherFiles() {
+    const auto folder = findFileIgnoringCase(m_home / std::string(kOtherFilesFolder));
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    CurrentClient = PacienteRecord{};
+    CurrentClient.Codigo = OutsideClientCode;
+    setRecordText(CurrentClient.Nome, ScreenTextToTable(uiText(kDefaultClientName), languageId()));
+    openCurrentClient();
+}
+
+void CMainFrame::newClient() {
+    m_table->LoadClients();
+    PacienteRecord proposed;
+    proposed.Codigo = m_table->NextFreeCode();
+    // The form makes the new client the client in work when it is inserted.
+    CPaciente form(CPaciente::InsertMode, proposed, *m_table, CurrentClient, m_home, languageId(), m_prompt, this);
+    if (form.exec() == QDialog::Accepted) openCurrentClient();
+}
+
+void CMainFrame::personalInformation() {
+    if (CurrentClient.Codigo == OutsideClientCode) {
+        m_prompt.showOk(kNoPersonalInformationOutside);
+        return;
+    }
+    m_table->LoadClients(formatText("CODIGO = %d", CurrentClient.Codigo));
+    if (m_table->Count() == 0) {
+        m_prompt.showOk(kClientNoLongerInTable);
+        return;
+    }
+    CPaciente form(CPaciente::EditMode, m_table->EntryAt(0)->record, *m_table, CurrentClient, m_home, languageId(),
+                   m_prompt, this);
+    if (form.exec() != QDialog::Accepted) return;
+    CurrentClient = form.record();
+    applyClientTypeRange();
+    setDocumentTitle(TableTextToScreen(recordText(CurrentClient.Nome), languageId()));
+    m_view->update();
+}
+
+void CMainFrame::deleteClient() {
+    if (CurrentClient.Codigo == kNoClient || !m_prompt.askYesNo(kConfirmDeleteClient)) return;
+    const bool outside = CurrentClient.Codigo == OutsideClientCode;
+    int recordNumber = -1;
+    if (!outside) {
+        // Only the row of this very code is deleted; when it has gone meanwhile, nothing is touched.
+        recordNumber = m_table->LoadClients(formatText("CODIGO = %d", CurrentClient.Codigo));
+        if (recordNumber < 0) return;
+        if (m_table->Count() == 0) {
+            m_prompt.showOk(kClientNoLongerInTable);
+            return;
+        }
+    }
+    const auto folder = clientFolderPath();
+    setDocumentTitle(QString());
+    m_view->ShowEmpty();
+    std::error_code error;
+    if (std::filesystem::is_directory(folder, error)) {
+        DeleteMatchingFiles(folder, kClientMenuDeletePatterns);
+        if (!std::filesystem::remove(folder, error) || error) m_prompt.showOk(kClientFolderNotDeleted);
+    }
+    if (!outside) m_table->DeleteClient(recordNumber);
+    noClient();
+}
+
+void CMainFrame::ClientWasDeleted() { noClient(); }
+
+void CMainFrame::ClientWasChanged(const PacienteRecord& client) {
+    CurrentClient = client;
+    applyClientTypeRange();
+    setDocumentTitle(TableTextToScreen(recordText(CurrentClient.Nome), languageId()));
+}
+
+void CMainFrame::openRecording() {
+    if (CurrentClient.Codigo == kNoClient) return;
+    if (CurrentClient.Codigo == OutsideClientCode) {
+        const QString path = QFileDialog::getOpenFileName(
+            this, QString(), QString::fromStdString(clientFolderPath().string()), uiText(kSoundFileFilter));
+        if (!path.isEmpty()) emit recordingFileChosen(path);
+        return;
+    }
+    CAbrirSessao list(CurrentClient, m_home, languageId(), m_prompt, false, this);
+    connect(&list, &CAbrirSessao::recordingDeleted, this, &CMainFrame::recordingDeleted);
+    if (list.exec() == CAbrirSessao::RecordingChosen) {
+        emit recordingChosen(list.RecordingNumber(), list.Kind());
+    } else {
+        setDocumentTitle(TableTextToScreen(recordText(CurrentClient.Nome), languageId()));
+    }
+    UpdateCommands();
+}
 
 QAction* CMainFrame::addCommand(QMenu* menu, int id, std::string_view text, std::string_view tip, const char* icon,
                                 std::function<bool()> enabledWhen, std::function<bool()> checkedWhen) {
@@ -76,7 +233,7 @@ QAction* CMainFrame::addCommand(QMenu* menu, int id, std::string_view text, std:
 }
 
 void CMainFrame::createCommands() {
-    const auto withClient = [this] { return m_clientCode != -1; };
+    const auto withClient = [this] { return CurrentClient.Codigo != kNoClient; };
     const auto idle = [this] { return isIdle(); };
     const auto notRecording = [this] { return !m_view->Recording; };
 
@@ -88,19 +245,25 @@ void CMainFrame::createCommands() {
     };
 
     QMenu* client = addMenu(kMenuClient);
-    addCommand(client, kIdOpenClient, kCommandOpenClient, kTipOpenClient, "client-open");
-    addCommand(client, kIdNewClient, kCommandNewClient, kTipNewClient, "client-new");
-    addCommand(client, kIdPersonalInformation, kCommandPersonalInformation, kTipPersonalInformation, "client-info",
-               withClient);
-    addCommand(client, kIdDeleteClient, kCommandDeleteClient, kTipDeleteClient, "client-delete",
-               [this] { return m_clientCode != -1 && isIdle(); });
+    connect(addCommand(client, kIdOpenClient, kCommandOpenClient, kTipOpenClient, "client-open"), &QAction::triggered,
+            this, &CMainFrame::openClient);
+    connect(addCommand(client, kIdNewClient, kCommandNewClient, kTipNewClient, "client-new"), &QAction::triggered, this,
+            &CMainFrame::newClient);
+    connect(addCommand(client, kIdPersonalInformation, kCommandPersonalInformation, kTipPersonalInformation,
+                       "client-info", withClient),
+            &QAction::triggered, this, &CMainFrame::personalInformation);
+    connect(addCommand(client, kIdDeleteClient, kCommandDeleteClient, kTipDeleteClient, "client-delete",
+                       [this] { return CurrentClient.Codigo != kNoClient && isIdle(); }),
+            &QAction::triggered, this, &CMainFrame::deleteClient);
     client->addSeparator();
     QAction* exit = addCommand(client, kIdExit, kCommandExit, kTipExit, nullptr);
     exit->setShortcut(QKeySequence::Quit);
     connect(exit, &QAction::triggered, this, &QWidget::close);
 
     m_filesMenu = addMenu(kMenuFiles);
-    addCommand(m_filesMenu, kIdOpenRecording, kCommandOpenRecording, kTipOpenRecording, "recording-open", withClient);
+    connect(addCommand(m_filesMenu, kIdOpenRecording, kCommandOpenRecording, kTipOpenRecording, "recording-open",
+                       withClient),
+            &QAction::triggered, this, &CMainFrame::openRecording);
     m_recentSeparator = m_filesMenu->addSeparator();
     connect(m_filesMenu, &QMenu::aboutToShow, this, &CMainFrame::fillRecentFiles);
 
@@ -186,7 +349,7 @@ void CMainFrame::fillRecentFiles() {
         const QString path = files[i];
         auto* action = new QAction(QString("&%1 %2").arg(i + 1).arg(QDir::toNativeSeparators(path)), m_filesMenu);
         action->setEnabled(isIdle());
-        connect(action, &QAction::triggered, this, [this, path] { emit recentFileChosen(path); });
+        connect(action, &QAction::triggered, this, [this, path] { emit recordingFileChosen(path); });
         m_filesMenu->addAction(action);
         m_recentActions.push_back(action);
     }

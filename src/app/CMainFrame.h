@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -11,11 +12,15 @@
 #include <QPointer>
 #include <QtGlobal>
 
+#include "app/ClientTypeRange.h"
 #include "app/RecentFileList.h"
 #include "app/SettingsFiles.h"
+#include "clients/PacienteRecord.h"
+#include "store/RecordingFiles.h"
 
 class CAFApp;
 class CAFView;
+class CPacienteTable;
 class QAction;
 class QLabel;
 class QMenu;
@@ -65,12 +70,13 @@ inline constexpr std::string_view kNotEndedProperly = QT_TRANSLATE_NOOP(
 inline constexpr std::string_view kExitQuestion = QT_TRANSLATE_NOOP("Sonalys", "Are you sure you want to exit?");
 inline constexpr std::string_view kVolumeControlFailed =
     QT_TRANSLATE_NOOP("Sonalys", "Volume Control can´t be  can´t be Inicialized!");
-
-// The analysis range of F0, in Hz, that the client's type sets.
-struct F0Range {
-    int minimum = 70;
-    int maximum = 400;
-};
+inline constexpr std::string_view kErrorAccessingClientFolder =
+    QT_TRANSLATE_NOOP("Sonalys", "Error Acessing Client´s folder !");
+// The name shown while working without a client.
+inline constexpr std::string_view kDefaultClientName = QT_TRANSLATE_NOOP("Sonalys", "default");
+inline constexpr std::string_view kSoundFileFilter = QT_TRANSLATE_NOOP("Sonalys", "Sound File (*.wav)");
+inline constexpr std::string_view kNoPersonalInformationOutside = QT_TRANSLATE_NOOP(
+    "Sonalys", "The sounds of \"Other Files\" belong to no client: there is no personal information to show.");
 
 class CMainFrame : public QMainWindow {
     Q_OBJECT
@@ -92,12 +98,30 @@ public:
     // Settings read at start: the record input of cfr.dat and the update rate index left by sy1.log.
     int RecordInput = 0;
     int RememberedUpdateRateIndex = -1;
-    F0Range f0Range;
+    F0Range f0Range = kStartF0Range;
 
-    int CurrentClientCode() const { return m_clientCode; }
+    // The client in work: code -1 for none, OutsideClientCode for work without a client.
+    PacienteRecord CurrentClient;
     bool isIdle() const;
 
+    CPacienteTable& table() { return *m_table; }
+    Prompt& prompt() { return m_prompt; }
+    const std::filesystem::path& home() const { return m_home; }
+    LanguageId languageId() const;
+    // The folder of the client in work: pacNNN, or "Other Files".
+    std::filesystem::path clientFolderPath() const;
+
+    // The open client was deleted from the client list: the program goes back to having no client.
+    void ClientWasDeleted();
+    // The open client's information was changed from the client list.
+    void ClientWasChanged(const PacienteRecord& client);
+
 public slots:
+    void openClient();
+    void newClient();
+    void personalInformation();
+    void deleteClient();
+    void openRecording();
     void volume();
     void contents();
     void about();
@@ -105,8 +129,12 @@ public slots:
     void languageKorean();
 
 signals:
-    // A sound file was chosen from the recent-file list.
-    void recentFileChosen(const QString& path);
+    // A recording of the client in work was chosen from its list, to be shown in the view.
+    void recordingChosen(int number, FileKind kind);
+    // A sound file was chosen by its path (work without a client, or the recent-file list).
+    void recordingFileChosen(const QString& path);
+    // The files of recording `number` of the client in work were deleted from the recording list.
+    void recordingDeleted(int number);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -130,11 +158,16 @@ private:
     void retranslate();
     void fillRecentFiles();
     void SetLanguageCommand(LanguageId language);
+    void openCurrentClient();
+    void openOtherFiles();
+    void noClient();
+    void setDocumentTitle(const QString& title);
+    void applyClientTypeRange();
 
     CAFApp& m_app;
     Prompt& m_prompt;
     std::filesystem::path m_home;
-    int m_clientCode = -1;
+    std::unique_ptr<CPacienteTable> m_table;
     CAFView* m_view = nullptr;
     QToolBar* m_toolBar = nullptr;
     QLabel* m_busyText = nullptr;
