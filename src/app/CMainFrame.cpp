@@ -22,6 +22,7 @@
 #include "app/HelpBrowser.h"
 #include "app/TableText.h"
 #include "clients/CPacienteTable.h"
+#include "controls/FileDialogMemory.h"
 #include "controls/UiText.h"
 #include "store/FileLookup.h"
 #include "store/Prompt.h"
@@ -206,6 +207,7 @@ void CMainFrame::ClientWasChanged(const PacienteRecord& client) {
 void CMainFrame::openRecording() {
     if (CurrentClient.Codigo == kNoClient) return;
     if (CurrentClient.Codigo == OutsideClientCode) {
+        const FileDialogMemoryGuard forget;
         const QString path = QFileDialog::getOpenFileName(
             this, QString(), QString::fromStdString(clientFolderPath().string()), uiText(kSoundFileFilter));
         if (!path.isEmpty()) emit recordingFileChosen(path);

@@ -1,10 +1,15 @@
 #include "app/CMainFrame.h"
 
 #include <QAction>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSettings>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTest>
 
 #include "DataRoot.h"
@@ -70,10 +75,12 @@ void inClientForm(const QString& name, const char* type, const QString& monthDay
 class CMainFrameTest : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void clientCommandsNeedAClient();
     void openCreateEditAndDeleteAClientOnTheDemoRoot();
     void aRecordingChosenFromTheListGoesToTheView();
     void otherFilesWorksWithoutAClient();
+    void otherFilesOpensAnySoundAndTheDialogLeavesNoTrace();
     void aClientWhoseFolderIsGoneCannotBeOpened();
     void anUnknownTypeKeepsTheRange();
 };
@@ -194,6 +201,29 @@ void CMainFrameTest::otherFilesWorksWithoutAClient() {
     QVERIFY(!fs::exists(root / "Other Files"));
     QCOMPARE(tableRows(root.path()), demoRows);
     QCOMPARE(frame.CurrentClient.Codigo, -1);
+}
+
+void CMainFrameTest::otherFilesOpensAnySoundAndTheDialogLeavesNoTrace() {
+    DemoCopy root;
+    root.write("Other Files/voice.wav", "RIFF");
+    const QString qtSettings = QSettings(QSettings::UserScope, "QtProject").fileName();
+    QFile::remove(qtSettings);
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    inClientList(QString(), "otherFiles");
+    frame.command(kOpenClient)->trigger();
+    QSignalSpy chosen(&frame, &CMainFrame::recordingFileChosen);
+    const QString voice = QString::fromStdString((root / "Other Files/voice.wav").string());
+    ModalDriver::whenModal([&](QWidget* modal) {
+        auto* dialog = qobject_cast<QFileDialog*>(modal);
+        QCOMPARE(QFileInfo(dialog->directory().absolutePath()).canonicalFilePath(), QFileInfo(voice).canonicalPath());
+        dialog->selectFile(voice);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    frame.command(kOpenRecording)->trigger();
+    QCOMPARE(chosen.count(), 1);
+    QCOMPARE(QFileInfo(chosen.at(0).at(0).toString()).canonicalFilePath(), QFileInfo(voice).canonicalFilePath());
+    QVERIFY(!QFile::exists(qtSettings));
 }
 
 void CMainFrameTest::aClientWhoseFolderIsGoneCannotBeOpened() {
