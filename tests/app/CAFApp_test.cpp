@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -188,6 +189,9 @@ void CAFAppTest::languageCommandsWriteLangDatAndFollowTheRecording() {
     QVERIFY(!std::filesystem::exists(home / "lang.dat"));
     korean->trigger();
     QCOMPARE(app->languageId(), LanguageId::Korean);
+    // The translations ship inside the program, where the language commands look for them.
+    for (const char* language : {"es", "ko", "pt"})
+        QVERIFY(QFile::exists(QString(":/i18n/sonalys_%1.qm").arg(language)));
     QCOMPARE(home.read("lang.dat"), le32(2));
     QVERIFY(korean->isChecked());
     QVERIFY(!english->isChecked());
