@@ -2,6 +2,10 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTest>
 #include <fstream>
 
@@ -14,6 +18,7 @@
 #include "app/CMainFrame.h"
 #include "app/CSplashWnd.h"
 #include "app/MessageBoxPrompt.h"
+#include "app/RecentFileList.h"
 #include "app/ScreenCheck.h"
 #include "app/SystemInfo.h"
 #include "controls/UiText.h"
@@ -38,7 +43,9 @@ std::unique_ptr<CAFApp> startProgram(const TempDir& home, FakePrompt& prompt) {
 class CAFAppTest : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void startsInEnglishWhateverLangDatSays();
+    void recentFilesKeepTheLastFourNewestFirst();
     void brokenRecordingWarnsOnceAndKeepsTheUpdateRate();
     void screenTooPoorShowsTheAttentionBoxAndStops();
     void screenBetweenTheLayoutsAsksForAnotherSize();
@@ -67,6 +74,36 @@ void CAFAppTest::startsInEnglishWhateverLangDatSays() {
         QCOMPARE(home.read("lang.dat"), contents);
         QVERIFY(prompt.shown.empty());
     }
+}
+
+void CAFAppTest::recentFilesKeepTheLastFourNewestFirst() {
+    QSettings(kProfileOrganization, kProfileApplication).clear();
+    RecentFileList recent;
+    for (const char* path : {"/a/1.wav", "/a/2.wav", "/a/3.wav", "/a/4.wav", "/a/5.wav"}) recent.add(path);
+    QCOMPARE(recent.files(), QStringList({"/a/5.wav", "/a/4.wav", "/a/3.wav", "/a/2.wav"}));
+    recent.add("/a/3.wav");  // opened again: moves up, not twice
+    QCOMPARE(recent.files(), QStringList({"/a/3.wav", "/a/5.wav", "/a/4.wav", "/a/2.wav"}));
+    recent.remove("/a/5.wav");
+    QCOMPARE(RecentFileList().files(), QStringList({"/a/3.wav", "/a/4.wav", "/a/2.wav"}));
+
+    // The Files menu lists them; choosing one hands its path on.
+    TempDir home;
+    FakePrompt prompt;
+    auto app = startProgram(home, prompt);
+    auto* files = qobject_cast<QMenu*>(app->mainFrame()->command(32784)->associatedObjects().value(0));
+    QVERIFY(files != nullptr);
+    emit files->aboutToShow();
+    QAction* first = nullptr;
+    for (QAction* action : files->actions()) {
+        if (action->text().endsWith("3.wav")) first = action;
+    }
+    QVERIFY(first != nullptr);
+    QCOMPARE(first->text(), QString("&1 /a/3.wav"));
+    QSignalSpy chosen(app->mainFrame(), &CMainFrame::recordingFileChosen);
+    first->trigger();
+    QCOMPARE(chosen.count(), 1);
+    QCOMPARE(chosen.at(0).at(0).toString(), QString("/a/3.wav"));
+    QSettings(kProfileOrganization, kProfileApplication).clear();
 }
 
 void CAFAppTest::brokenRecordingWarnsOnceAndKeepsTheUpdateRate() {
