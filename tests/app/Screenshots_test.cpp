@@ -4,15 +4,18 @@
 #include <QDir>
 #include <QLabel>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 
 #include "ProgramOnRoot.h"
 #include "TempDir.h"
+#include "app/CAboutDlg.h"
 #include "app/CAbrirPaciente.h"
 #include "app/CAbrirSessao.h"
 #include "app/CPaciente.h"
+#include "app/CSplashWnd.h"
 #include "clients/CPacienteTable.h"
 #include "controls/ReportList.h"
 
@@ -38,7 +41,8 @@ QImage screen(QWidget& frame, QWidget* dialog) {
     painter.drawPixmap(0, 0, frame.grab());
     if (dialog != nullptr) {
         // The desktop draws a dialog's title bar; here a plain one stands in for it.
-        const int titleHeight = dialog->fontMetrics().height() + 10;
+        const bool titled = !dialog->windowFlags().testFlag(Qt::FramelessWindowHint);
+        const int titleHeight = titled ? dialog->fontMetrics().height() + 10 : 0;
         const QPixmap window = dialog->grab();
         const QPoint at((frame.width() - window.width()) / 2, (frame.height() - window.height() + titleHeight) / 2);
         const QRect title(at.x(), at.y() - titleHeight, window.width(), titleHeight);
@@ -109,6 +113,16 @@ void ScreenshotsTest::mainWindowAndDialogs() {
     QVERIFY(form.width() <= size.width() && form.height() <= size.height());
     QVERIFY(screen(frame, &form).save(folder + "/client-form" + suffix));
     form.close();
+
+    CAboutDlg about(true, &frame);
+    about.show();
+    verifyTextsFit(&about);
+    QVERIFY(screen(frame, &about).save(folder + "/about" + suffix));
+    about.close();
+
+    QPointer<CSplashWnd> splash = CSplashWnd::ShowSplashScreen(&frame, LanguageId::English);
+    QVERIFY(screen(frame, splash).save(folder + "/splash" + suffix));
+    splash->close();
 
     frame.CurrentClient = table.EntryAt(0)->record;
     CAbrirSessao recordings(frame.CurrentClient, root.path(), LanguageId::English, program.prompt, false, &frame);
