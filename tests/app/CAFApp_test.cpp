@@ -1,12 +1,15 @@
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
+#include <QTextBrowser>
 #include <fstream>
 
 #include "FakePrompt.h"
@@ -17,6 +20,7 @@
 #include "app/CConfiguraCores.h"
 #include "app/CMainFrame.h"
 #include "app/CSplashWnd.h"
+#include "app/HelpBrowser.h"
 #include "app/MessageBoxPrompt.h"
 #include "app/RecentFileList.h"
 #include "app/ScreenCheck.h"
@@ -58,6 +62,7 @@ private slots:
     void volumeWithoutADesktopMixerSaysSo();
     void busyTextIsShownAndCleared();
     void messageBoxIsTitledWithTheProgramsName();
+    void contentsOpensTheUserGuideWhoseLinksAllResolve();
 };
 
 void CAFAppTest::startsInEnglishWhateverLangDatSays() {
@@ -73,6 +78,8 @@ void CAFAppTest::startsInEnglishWhateverLangDatSays() {
         // Reading does not write: the file stays as it was, or absent.
         QCOMPARE(home.read("lang.dat"), contents);
         QVERIFY(prompt.shown.empty());
+        // A first start in an empty data root makes the client table without a word.
+        QVERIFY(std::filesystem::exists(home / "pacb.dbf"));
     }
 }
 
@@ -312,6 +319,33 @@ void CAFAppTest::messageBoxIsTitledWithTheProgramsName() {
     ModalDriver::answerMessageBox(QMessageBox::Yes);
     QVERIFY(prompt.askYesNo("Are you sure you want to exit?"));
     QCOMPARE(text, QString("Are you sure you want to exit?"));
+}
+
+void CAFAppTest::contentsOpensTheUserGuideWhoseLinksAllResolve() {
+    TempDir home;
+    FakePrompt prompt;
+    auto app = startProgram(home, prompt);
+    app->mainFrame()->command(32856)->trigger();
+    auto* help = app->mainFrame()->findChild<HelpBrowser*>();
+    QVERIFY(help != nullptr && help->isVisible());
+    QVERIFY(help->browser()->toPlainText().contains("Sonalys user guide"));
+    // Every page shipped, every link and picture in it found inside the program.
+    const QStringList pages = QDir(":/help").entryList({"*.html"});
+    QVERIFY(pages.size() >= 5);
+    const QRegularExpression reference(R"re((?:href|src)="([^"#]+)")re");
+    int checked = 0;
+    for (const QString& page : pages) {
+        QFile file(":/help/" + page);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString html = QString::fromUtf8(file.readAll());
+        for (auto match = reference.globalMatch(html); match.hasNext();) {
+            const QString target = match.next().captured(1);
+            const QString resource = target.startsWith("qrc:") ? target.mid(3) : ":/help/" + target;
+            QVERIFY2(QFile::exists(resource), qPrintable(page + " -> " + target));
+            ++checked;
+        }
+    }
+    QVERIFY(checked > 15);
 }
 
 QTEST_MAIN(CAFAppTest)
