@@ -82,14 +82,14 @@ std::vector<AnalogueSection> ellipticPrototype(double k, int order, double rippl
 
 // Maps an analogue section to the z-plane by the bilinear transform, the prototype's frequency 1 standing at the
 // pre-warped frequency `centre`, and scales its numerator so that the section passes DC unchanged.
-FilterSection bilinear(const AnalogueSection& s, double centre) {
+BiquadSection bilinear(const AnalogueSection& s, double centre) {
     const double c2 = centre * centre;
     const double d0 = 1.0 + s.b1 * centre + s.b0 * c2;
     const double d1 = -2.0 + 2.0 * s.b0 * c2;
     const double d2 = 1.0 - s.b1 * centre + s.b0 * c2;
     const double n0 = 1.0 + s.a0 * c2;
     const double n1 = -2.0 + 2.0 * s.a0 * c2;
-    FilterSection section;
+    BiquadSection section;
     section.a1 = d1 / d0;
     section.a2 = d2 / d0;
     const double dcScale = (1.0 + section.a1 + section.a2) / ((n0 + n1 + n0) / d0);
@@ -124,11 +124,11 @@ StageLowPass designStageLowPass(double w, int passes) {
     design.order = ellipticOrder(k, figures.rippleDb, figures.attenuationDb);
     design.cascade = figures.cascade;
 
-    std::vector<FilterSection> once;
+    std::vector<BiquadSection> once;
     for (const AnalogueSection& s : ellipticPrototype(k, design.order, figures.rippleDb)) {
         once.push_back(bilinear(s, std::sqrt(passEdge * stopEdge)));
     }
-    for (const FilterSection& section : once) {
+    for (const BiquadSection& section : once) {
         if (sectionRisksLimitCycles(section)) {
             design.result = FilterDesignResult::LimitCycles;
             return design;
@@ -139,7 +139,7 @@ StageLowPass designStageLowPass(double w, int passes) {
     return design;
 }
 
-bool sectionRisksLimitCycles(const FilterSection& section) {
+bool sectionRisksLimitCycles(const BiquadSection& section) {
     // The section's lattice (reflection) coefficients; both near 1 in size means poles hugging the unit circle.
     const double k2 = -section.a2;
     const double k1 = -(section.a1 / (1.0 - k2));

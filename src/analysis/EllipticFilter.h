@@ -15,7 +15,7 @@ inline constexpr double kStopbandAttenuationDb = 80.0;
 inline constexpr double kSectionStabilityLimit = 1e-05;
 
 // One second-order section, b0 + b1 z^-1 + b2 z^-2 over 1 + a1 z^-1 + a2 z^-2.
-struct FilterSection {
+struct BiquadSection {
     double b0 = 1.0, b1 = 0.0, b2 = 0.0;
     double a1 = 0.0, a2 = 0.0;
 };
@@ -23,7 +23,7 @@ struct FilterSection {
 enum class FilterDesignResult { Ok, TooDifficult, LimitCycles };
 
 struct StageLowPass {
-    std::vector<FilterSection> sections;  // in the order a signal passes them, repeats of a cascade included
+    std::vector<BiquadSection> sections;  // in the order a signal passes them, repeats of a cascade included
     int order = 0;                        // order of the designed elliptic filter, before any repeat
     int cascade = 0;                      // how many times the designed filter runs in a row: 1, 2 or 3
     FilterDesignResult result = FilterDesignResult::TooDifficult;
@@ -45,4 +45,4 @@ int ellipticOrder(double k, double rippleDb, double attenuationDb);
 StageLowPass designStageLowPass(double w, int passes = 1);
 
 // True when the section's poles lie so close to the unit circle that rounding could make it ring on by itself.
-bool sectionRisksLimitCycles(const FilterSection& section);
+bool sectionRisksLimitCycles(const BiquadSection& section);

@@ -24,8 +24,8 @@ constexpr long long kSegmentBlocks = 256;  // blocks between two kept forward st
 constexpr double kDecayLevel = 1e-13;      // a response this small, relative to the impulse, counts as gone
 
 // One working-rate step of the cascade in transposed direct form II; `state` holds two values per section.
-double stepCascade(const std::vector<FilterSection>& sections, double* state, double value) {
-    for (const FilterSection& f : sections) {
+double stepCascade(const std::vector<BiquadSection>& sections, double* state, double value) {
+    for (const BiquadSection& f : sections) {
         const double y = f.b0 * value + state[0];
         state[0] = f.b1 * value - f.a1 * y + state[1];
         state[1] = f.b2 * value - f.a2 * y;
@@ -66,9 +66,9 @@ void multiply(const double* matrix, int rows, std::span<const double> in, double
     for (; r < rows; r += 4) multiplyFourRows(matrix + r, rows, in, out + r);
 }
 
-double largestPoleRadius(const std::vector<FilterSection>& sections) {
+double largestPoleRadius(const std::vector<BiquadSection>& sections) {
     double radius = 0.0;
-    for (const FilterSection& f : sections) {
+    for (const BiquadSection& f : sections) {
         const double discriminant = f.a1 * f.a1 - 4.0 * f.a2;
         if (discriminant < 0.0) {
             radius = std::max(radius, std::sqrt(f.a2));
@@ -119,7 +119,7 @@ private:
 
 }  // namespace
 
-ZeroPhaseResampler::ZeroPhaseResampler(int up, int down, std::vector<FilterSection> sections)
+ZeroPhaseResampler::ZeroPhaseResampler(int up, int down, std::vector<BiquadSection> sections)
     : m_up(up), m_down(down), m_sections(std::move(sections)) {
     SONALYS_ASSERT(up >= 1 && down >= 1);
     m_states = 2 * static_cast<int>(m_sections.size());

@@ -14,7 +14,7 @@ using ConversionProgress = std::function<bool(double fractionDone)>;
 class ZeroPhaseResampler {
 public:
     // `sections` run in the given order at the working rate, `up` times the input rate. 1 <= up, down.
-    ZeroPhaseResampler(int up, int down, std::vector<FilterSection> sections);
+    ZeroPhaseResampler(int up, int down, std::vector<BiquadSection> sections);
 
     // Fills `output` with the converted signal: output value i stands at time i * down / up input samples, and
     // input values past the end count as silence, so outputs beyond up * n / down hold the filters' decaying tail.
@@ -35,7 +35,7 @@ private:
 
     int m_up;
     int m_down;
-    std::vector<FilterSection> m_sections;
+    std::vector<BiquadSection> m_sections;
     int m_states;            // two per section
     int m_periods;           // a block spans this many times up * down working steps
     int m_blockInputs;       // input values a block takes

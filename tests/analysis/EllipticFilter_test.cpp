@@ -12,7 +12,7 @@ namespace {
 double gainDb(const StageLowPass& design, double frequency) {
     const std::complex<double> z = std::polar(1.0, -2.0 * std::numbers::pi * frequency);  // z^-1
     std::complex<double> response = 1.0;
-    for (const FilterSection& s : design.sections) {
+    for (const BiquadSection& s : design.sections) {
         response *= (s.b0 + s.b1 * z + s.b2 * z * z) / (1.0 + s.a1 * z + s.a2 * z * z);
     }
     return 20.0 * std::log10(std::abs(response));
@@ -30,7 +30,7 @@ TEST(StageLowPass, EveryFactorMeetsItsFiguresOverTheWholeCascade) {
             EXPECT_EQ(design.order % 2, 0);
             EXPECT_EQ(design.cascade, factor < 20 ? 1 : factor < 30 ? 2 : 3);
             ASSERT_EQ(design.sections.size(), static_cast<std::size_t>(design.order / 2 * design.cascade));
-            for (const FilterSection& s : design.sections) {
+            for (const BiquadSection& s : design.sections) {
                 EXPECT_NEAR((s.b0 + s.b1 + s.b2) / (1.0 + s.a1 + s.a2), 1.0, 1e-12);  // DC passes unchanged
                 EXPECT_LT(s.a2, 1.0);                                                 // poles inside the circle
                 EXPECT_LT(std::fabs(s.a1), 1.0 + s.a2);
@@ -57,7 +57,7 @@ TEST(StageLowPass, FactorsOutsideTwoToFortyOneAreTooDifficult) {
 
 TEST(StageLowPass, SectionsWithPolesHuggingTheUnitCircleRiskLimitCycles) {
     const auto section = [](double radius, double angle) {
-        FilterSection s;
+        BiquadSection s;
         s.a1 = -2.0 * radius * std::cos(angle);
         s.a2 = radius * radius;
         return s;

@@ -10,13 +10,13 @@ namespace {
 
 // The stage written plainly: zero-stuff to the working rate (each value up times as large), run the sections
 // forward over every step and far past the end, then backward from rest, and keep every down-th value.
-std::vector<double> plainStage(int up, int down, const std::vector<FilterSection>& sections,
+std::vector<double> plainStage(int up, int down, const std::vector<BiquadSection>& sections,
                                const std::vector<float>& input, std::size_t outputs, long long tail) {
     const long long steps = std::max<long long>(up * static_cast<long long>(input.size()), outputs * down) + tail;
     std::vector<double> state(2 * sections.size());
     const auto step = [&](double value) {
         for (std::size_t i = 0; i < sections.size(); ++i) {
-            const FilterSection& f = sections[i];
+            const BiquadSection& f = sections[i];
             const double y = f.b0 * value + state[2 * i];
             state[2 * i] = f.b1 * value - f.a1 * y + state[2 * i + 1];
             state[2 * i + 1] = f.b2 * value - f.a2 * y;
@@ -57,7 +57,7 @@ TEST(ZeroPhaseResampler, GivesWhatThePlainForwardBackwardPassGives) {
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.up << "/" << c.down);
         const int factor = std::max({c.up, c.down, 2});
-        const std::vector<FilterSection> sections = designStageLowPass(0.5 / factor).sections;
+        const std::vector<BiquadSection> sections = designStageLowPass(0.5 / factor).sections;
         const ZeroPhaseResampler stage(c.up, c.down, sections);
         const std::vector<float> input = noise(c.inputs);
         const std::size_t outputs = c.inputs * c.up / c.down + 37;
