@@ -14,6 +14,7 @@
 #include "app/CPaciente.h"
 #include "app/TableText.h"
 #include "clients/CPacienteTable.h"
+#include "controls/PictureButton.h"
 #include "controls/ReportList.h"
 #include "controls/UiText.h"
 #include "store/FileLookup.h"
@@ -25,13 +26,9 @@ namespace {
 
 constexpr int kVisibleRows = 10;
 
+// The program's own pictures, by name.
 QPushButton* pictureButton(std::string_view text, const char* picture, const char* name, QWidget* parent) {
-    auto* button = new QPushButton(QIcon(QString(":/app/%1.svg").arg(QLatin1String(picture))), uiText(text), parent);
-    button->setObjectName(name);
-    button->setIconSize(QSize(24, 24));
-    button->setAutoDefault(false);
-    button->setStyleSheet("text-align: left; padding: 4px 10px;");
-    return button;
+    return pictureButton(text, QString(":/app/%1.svg").arg(QLatin1String(picture)), name, parent);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "app/TableText.h"
+#include "controls/PictureButton.h"
 #include "controls/ReportList.h"
 #include "controls/UiText.h"
 #include "store/Prompt.h"
@@ -20,13 +21,9 @@ namespace {
 const char* const kKindPictures[5] = {":/app/kind0-wv-dated.svg", ":/app/kind1-qv-dated.svg", ":/app/kind2-wv.svg",
                                       ":/app/kind3-qv.svg", ":/app/kind4-backup.svg"};
 
+// The program's own pictures, by name.
 QPushButton* pictureButton(std::string_view text, const char* picture, const char* name, QWidget* parent) {
-    auto* button = new QPushButton(QIcon(QString(":/app/%1.svg").arg(QLatin1String(picture))), uiText(text), parent);
-    button->setObjectName(name);
-    button->setIconSize(QSize(24, 24));
-    button->setAutoDefault(false);
-    button->setStyleSheet("text-align: left; padding: 4px 10px;");
-    return button;
+    return pictureButton(text, QString(":/app/%1.svg").arg(QLatin1String(picture)), name, parent);
 }
 
 }  // namespace
