@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Args.h"
+#include "StreamPrompt.h"
 #include "WaveInput.h"
 #include "analysis/RateConversion.h"
 #include "store/Prompt.h"
@@ -12,16 +13,6 @@
 namespace {
 
 constexpr std::string_view kConvertUsage = "usage: sonalys-analyze convert IN.wav OUT.wav --rate 11025|22050|44100\n";
-
-// The conversion's messages go to standard error; nobody is there to answer a question.
-class ErrorStreamPrompt : public Prompt {
-public:
-    void showOk(std::string_view text) override { std::cerr << text << "\n"; }
-    bool askYesNo(std::string_view text) override {
-        std::cerr << text << "\n";
-        return false;
-    }
-};
 
 // The record format of each rate the program works at, all 16-bit mono.
 int recordFormatIndex(int rate) { return rate == 11025 ? 3 : rate == 22050 ? 5 : 7; }
@@ -49,7 +40,7 @@ int runConvert(CommandArgs words) {
         return 2;
     }
 
-    ErrorStreamPrompt prompt;
+    StreamPrompt prompt(std::cerr);
     const int toRate = static_cast<int>(rate);
     int written = 0;
     if (static_cast<int>(fromRate) == toRate) {

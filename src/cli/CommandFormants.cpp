@@ -5,29 +5,10 @@
 #include <thread>
 
 #include "Args.h"
+#include "CsvNumber.h"
+#include "StreamPrompt.h"
 #include "WaveInput.h"
 #include "analysis/FormantTracker.h"
-
-namespace {
-
-// Messages of the analysis go to the error stream; there is nobody to answer a question, which counts as No.
-class ConsolePrompt : public Prompt {
-public:
-    void showOk(std::string_view text) override { std::cerr << text << "\n"; }
-    bool askYesNo(std::string_view text) override {
-        std::cerr << text << "\n";
-        return false;
-    }
-};
-
-template <typename T>
-void writeNumber(std::string& out, T value) {
-    char buffer[32];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
-    out.append(buffer, result.ptr);
-}
-
-}  // namespace
 
 int runFormants(CommandArgs words) {
     Args args(words, {});
@@ -42,7 +23,7 @@ int runFormants(CommandArgs words) {
     const auto input = loadMonoInput(std::string(args.positional()[0]), std::cerr);
     if (!input) return 2;
 
-    ConsolePrompt prompt;
+    StreamPrompt prompt(std::cerr);
     FormantTracker tracker(prompt);
     tracker.setThreadCount(static_cast<int>(threads));
     FormantTrack track;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Args.h"
+#include "CsvNumber.h"
 #include "SampleRange.h"
 #include "WaveInput.h"
 #include "analysis/PowerSpectrum.h"
@@ -13,13 +14,6 @@ namespace {
 
 constexpr std::string_view kUsage =
     "usage: sonalys-analyze spectrum FILE.wav [--fft 256|512|1024] [--from S] [--to S] [--no-window]\n";
-
-template <typename T>
-void writeNumber(std::string& out, T value) {
-    char buffer[32];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
-    out.append(buffer, result.ptr);
-}
 
 }  // namespace
 

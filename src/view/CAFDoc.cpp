@@ -1,7 +1,7 @@
 #include "view/CAFDoc.h"
 
 void CAFDoc::SetTitle(const QString& title) {
-    if (title == m_title) return;
+    // Announced even when unchanged: the window may have shown another title meanwhile.
     m_title = title;
     emit titleChanged(m_title);
 }

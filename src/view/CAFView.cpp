@@ -110,6 +110,7 @@ void CAFView::createCommands() {
         if (command.id == kIdShowSpectrogram) run = &CAFView::ShowSpectrogramPage;
         if (command.id == kIdShowSpectrum) run = &CAFView::ShowSpectrumPage;
         if (run != nullptr) connect(action, &QAction::triggered, this, run);
+        if (command.id == kIdZoom) action->setIcon(QIcon(":/view/zoom.svg"));
         m_commands.push_back({command.id, action, run});
     }
     m_contextMenu = new QMenu(this);
@@ -139,6 +140,15 @@ bool CAFView::canRun(int id) const {
         if (command.id == id) return command.run != nullptr;
     }
     return false;
+}
+
+void CAFView::retranslate() {
+    for (const CommandAction& command : m_commands) command.action->setText(uiText(FindViewCommand(command.id)->text));
+    for (QAction* item : m_contextMenu->actions()) {
+        if (const ViewCommand* command = FindViewCommand(item->data().toInt())) item->setText(uiText(command->text));
+    }
+    rebuildPage(false);
+    update();
 }
 
 void CAFView::UpdateCommands() {
@@ -195,6 +205,13 @@ void CAFView::CloseRecording() {
     m_spectrumObject.setValid(false);
     clearReadOut();
     UpdateCommands();
+}
+
+void CAFView::RecordingDeleted(int number) {
+    if (!m_recording.hasSamples() || m_recording.RecordingNumber != number || m_recording.RecordingNumber < 0) return;
+    m_labels.clear();
+    m_recording.Modified = false;
+    ShowEmpty();
 }
 
 void CAFView::ShowEmpty() {

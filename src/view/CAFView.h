@@ -77,6 +77,9 @@ public:
     int OpenRecordingFile(const std::filesystem::path& path);
     // Frees the samples and leaves the view empty; called by everything that changes what is on screen.
     void CloseRecording();
+    // The files of recording `number` of the current client were deleted: when it is the one on screen, the view
+    // goes empty without writing anything beside the deleted sound.
+    void RecordingDeleted(int number);
     // The commands of the Mode menu.
     void ShowSpectrogramPage();
     void ShowSpectrumPage();
@@ -112,6 +115,8 @@ public:
     CommandState commandState() const;
     // Brings the enabled and checked state of every command up to date.
     void UpdateCommands();
+    // The texts of the commands and of the page in the language in force.
+    void retranslate();
     QMenu* contextMenu() const { return m_contextMenu; }
 
     // The panel settings, at their defaults until the side panels exist.

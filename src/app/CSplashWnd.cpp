@@ -1,0 +1,54 @@
+#include "app/CSplashWnd.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPainter>
+
+#include "controls/UiText.h"
+
+namespace {
+constexpr QSize kPictureSize(480, 300);
+}
+
+CSplashWnd* CSplashWnd::ShowSplashScreen(QWidget* mainWindow, LanguageId language) {
+    auto* splash = new CSplashWnd(mainWindow, language);
+    splash->show();
+    splash->raise();
+    return splash;
+}
+
+CSplashWnd::CSplashWnd(QWidget* mainWindow, LanguageId language)
+    : QWidget(mainWindow, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      m_picture(QIcon(":/app/splash.svg").pixmap(kPictureSize, devicePixelRatioF())),
+      // The Spanish text is longer; it is written higher up and further left.
+      m_textAt(language == LanguageId::Spanish ? QPoint(200, 40) : QPoint(300, 190)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setFixedSize(kPictureSize);
+    const QRect area = mainWindow != nullptr ? mainWindow->geometry() : QRect(QPoint(0, 0), kPictureSize);
+    move(area.center() - QPoint(kPictureSize.width() / 2, kPictureSize.height() / 2));
+    qApp->installEventFilter(this);
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &QWidget::close);
+    m_timer.start(kSplashMilliseconds);
+}
+
+void CSplashWnd::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, m_picture);
+    painter.setPen(Qt::black);
+    const QFontMetrics metrics(painter.font());
+    painter.drawText(m_textAt + QPoint(0, metrics.ascent()), uiText(kSplashWait));
+}
+
+bool CSplashWnd::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::NonClientAreaMouseButtonPress:
+        qApp->removeEventFilter(this);
+        close();
+        return true;
+    default: return QWidget::eventFilter(watched, event);
+    }
+}

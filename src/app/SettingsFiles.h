@@ -1,0 +1,43 @@
+// The small settings files of the data root. Each is a bare run of little-endian 32-bit signed integers with no
+// header, written at the moment its setting changes; nothing is written at exit.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <vector>
+
+// The interface language, by the number stored in lang.dat.
+enum class LanguageId : std::int32_t { English = 0, Spanish = 1, Korean = 2, Portuguese = 3 };
+
+inline constexpr const char* kLanguageFile = "lang.dat";        // LanguageId
+inline constexpr const char* kScreenModeFile = "conf.dat";      // ScreenMode, written by the installer only
+inline constexpr const char* kRecordInputFile = "cfr.dat";      // RecordInput: 0 microphone, 1 line in
+inline constexpr const char* kRecordingMarkerFile = "sy1.log";  // recording marker, then update rate index
+
+// A missing lang.dat means Korean; a missing conf.dat means "take the screen as it is".
+inline constexpr LanguageId kLanguageWhenMissing = LanguageId::Korean;
+inline constexpr int kScreenModeWhenMissing = 4;
+
+// Reads the first `count` integers of a settings file; nothing when the file is missing or shorter than that.
+std::optional<std::vector<std::int32_t>> ReadSettingInts(const std::filesystem::path& file, std::size_t count);
+// Replaces the file with exactly these integers; false if it could not be written (the old file then stays).
+bool WriteSettingInts(const std::filesystem::path& file, std::span<const std::int32_t> values);
+
+LanguageId ReadLanguage(const std::filesystem::path& home);
+bool WriteLanguage(const std::filesystem::path& home, LanguageId language);
+int ReadScreenMode(const std::filesystem::path& home);
+// The record input of cfr.dat, or `current` unchanged when the file is missing.
+int ReadRecordInput(const std::filesystem::path& home, int current);
+
+// What sy1.log said about the last run. The recording engine writes 0 when a recording starts and 1 when it
+// ends properly, followed by the index of the screen update rate in use.
+struct RecordingMarker {
+    bool present = false;    // the file was there
+    std::int32_t ended = 1;  // 0: the last recording never ended
+    std::int32_t updateRateIndex = -1;
+    bool lastRecordingBroken() const { return present && ended == 0; }
+};
+// Reads sy1.log and deletes it, so that the warning it may carry is given once.
+RecordingMarker TakeRecordingMarker(const std::filesystem::path& home);

@@ -1,0 +1,249 @@
+#include "app/CAbrirPaciente.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "DataRoot.h"
+#include "ModalDriver.h"
+#include "ProgramOnRoot.h"
+#include "app/CPaciente.h"
+#include "controls/ReportList.h"
+
+namespace {
+
+std::vector<ClientSpec> numberedClients(int count) {
+    std::vector<ClientSpec> clients;
+    for (int code = 1; code <= count; ++code) clients.push_back({code, "Client " + std::to_string(code)});
+    return clients;
+}
+
+QStringList column(const ReportList* list, int column) {
+    QStringList cells;
+    for (int row = 0; row < list->rowCount(); ++row) cells << list->cellText(row, column);
+    return cells;
+}
+
+QPushButton* button(const QDialog& dialog, const char* name) { return dialog.findChild<QPushButton*>(name); }
+
+}  // namespace
+
+class CAbrirPacienteTest : public QObject {
+    Q_OBJECT
+private slots:
+    void rowsShowCodeAndNameInTableOrder();
+    void nameColumnNarrowsFromElevenClients();
+    void searchFindsTheFirstNameBeginningWithTheText();
+    void clientCommandsFollowTheChoice();
+    void openMakesTheChosenClientCurrent();
+    void newClientAndOtherFilesEndTheList();
+    void personalInformationRewritesTheRow();
+    void deleteRemovesTheFilesTheFolderAndOnlyThatRow();
+    void deletingTheOpenClientLeavesNoClient();
+    void deletingAClientGoneMeanwhileTouchesNothing();
+    void headerClickSortsByText();
+};
+
+void CAbrirPacienteTest::rowsShowCodeAndNameInTableOrder() {
+    DataRoot root({{12, "Zeca"}, {3, "Ana"}, {1000, "Bruno"}});
+    ProgramOnRoot program(root.path());
+    CAbrirPaciente dialog(program.frame());
+    QCOMPARE(dialog.windowTitle(), QString("Select a Client"));
+    QCOMPARE(dialog.list()->model()->headerData(0, Qt::Horizontal).toString(), QString("Code"));
+    QCOMPARE(dialog.list()->model()->headerData(1, Qt::Horizontal).toString(), QString("Name"));
+    QCOMPARE(column(dialog.list(), 0), QStringList({"012", "003", "1000"}));
+    QCOMPARE(column(dialog.list(), 1), QStringList({"Zeca", "Ana", "Bruno"}));
+}
+
+void CAbrirPacienteTest::nameColumnNarrowsFromElevenClients() {
+    for (const auto& [count, language, width] :
+         {std::tuple{10, LanguageId::English, 170}, std::tuple{11, LanguageId::English, 153},
+          std::tuple{0, LanguageId::Korean, 211}, std::tuple{11, LanguageId::Korean, 153}}) {
+        DataRoot root(numberedClients(count));
+        ProgramOnRoot program(root.path(), language);
+        CAbrirPaciente dialog(program.frame());
+        QCOMPARE(dialog.list()->header()->sectionSize(0), 60);
+        QCOMPARE(dialog.list()->header()->sectionSize(1), width);
+    }
+}
+
+void CAbrirPacienteTest::searchFindsTheFirstNameBeginningWithTheText() {
+    DataRoot root({{1, "Joana"}, {2, "Mariana"}, {3, "ANTONIO"}, {4, "Ana"}});
+    ProgramOnRoot program(root.path());
+    CAbrirPaciente dialog(program.frame());
+    auto* search = dialog.findChild<QLineEdit*>("search");
+    QTest::keyClicks(search, "an");
+    QTest::keyClick(search, Qt::Key_Return);
+    QCOMPARE(dialog.list()->selectedRow(), 2);  // ANTONIO: the first from the top, not Joana nor Mariana
+    search->setText("ana");
+    button(dialog, "searchButton")->click();
+    QCOMPARE(dialog.list()->selectedRow(), 3);
+    QVERIFY(program.prompt.shown.empty());
+    search->setText("xu");
+    button(dialog, "searchButton")->click();
+    QCOMPARE(program.prompt.last(), std::string("Client not found!"));
+    QCOMPARE(dialog.list()->selectedRow(), 3);
+    search->clear();
+    button(dialog, "searchButton")->click();
+    QCOMPARE(program.prompt.last(), std::string("Type the Client´s name you want to search!"));
+    QCOMPARE(dialog.focusWidget(), search);
+}
+
+void CAbrirPacienteTest::clientCommandsFollowTheChoice() {
+    DataRoot root({{1, "Ana"}});
+    ProgramOnRoot program(root.path());
+    CAbrirPaciente dialog(program.frame());
+    const char* chosen[] = {"open", "personalInformation", "deleteClient"};
+    for (const char* name : chosen) QVERIFY2(!button(dialog, name)->isEnabled(), name);
+    for (const char* name : {"newClient", "otherFiles", "close"}) QVERIFY2(button(dialog, name)->isEnabled(), name);
+    dialog.list()->selectRow(0);
+    for (const char* name : chosen) QVERIFY2(button(dialog, name)->isEnabled(), name);
+    dialog.list()->selectRow(-1);
+    for (const char* name : chosen) QVERIFY2(!button(dialog, name)->isEnabled(), name);
+    // Without a choice the commands that need one say so.
+    dialog.personalInformation();
+    QCOMPARE(program.prompt.last(), std::string("You need to select a Item!"));
+    dialog.deleteClient();
+    QCOMPARE(program.prompt.shown.size(), std::size_t(2));
+    dialog.open();
+    QCOMPARE(dialog.result(), 0);
+}
+
+void CAbrirPacienteTest::openMakesTheChosenClientCurrent() {
+    DataRoot root({{1, "Ana", 1}, {2, "Bia", 2, "12241999"}});
+    ProgramOnRoot program(root.path());
+    CAbrirPaciente dialog(program.frame());
+    dialog.show();
+    dialog.list()->selectRow(1);
+    QTest::keyClick(dialog.list(), Qt::Key_Return);
+    QCOMPARE(dialog.result(), int(CAbrirPaciente::ClientChosen));
+    QCOMPARE(program.frame().CurrentClient.Codigo, 2);
+    QCOMPARE(std::string(recordText(program.frame().CurrentClient.Nome)), std::string("Bia"));
+    QCOMPARE(program.frame().CurrentClient.Tipo, 2);
+    QCOMPARE(std::string(recordText(program.frame().CurrentClient.DataNasc)), std::string("12241999"));
+}
+
+void CAbrirPacienteTest::newClientAndOtherFilesEndTheList() {
+    DataRoot root({{1, "Ana"}});
+    ProgramOnRoot program(root.path());
+    CAbrirPaciente dialog(program.frame());
+    button(dialog, "newClient")->click();
+    QCOMPARE(dialog.result(), int(CAbrirPaciente::NewClientChosen));
+    CAbrirPaciente again(program.frame());
+    button(again, "otherFiles")->click();
+    QCOMPARE(again.result(), int(CAbrirPaciente::OtherFilesChosen));
+}
+
+void CAbrirPacienteTest::personalInformationRewritesTheRow() {
+    DataRoot root({{1, "Ana"}, {2, "Bia"}});
+    ProgramOnRoot program(root.path());
+    program.frame().CurrentClient = makeRecord({2, "Bia"});
+    CAbrirPaciente dialog(program.frame());
+    dialog.list()->selectRow(1);
+    ModalDriver::whenModal([](QWidget* modal) {
+        auto* form = qobject_cast<CPaciente*>(modal);
+        form->findChild<QLineEdit*>("name")->setText("Bianca");
+        form->accept();
+    });
+    dialog.personalInformation();
+    QCOMPARE(dialog.list()->cellText(1, 1), QString("Bianca"));
+    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf").at(1).nome), std::string("Bianca"));
+    // The open client is the one changed: the title follows.
+    QCOMPARE(program.frame().windowTitle(), QString("Bianca - Sonalys"));
+    QCOMPARE(std::string(recordText(program.frame().CurrentClient.Nome)), std::string("Bianca"));
+}
+
+void CAbrirPacienteTest::deleteRemovesTheFilesTheFolderAndOnlyThatRow() {
+    DataRoot root({{1, "Ana"}, {2, "Bia"}, {3, "Caio"}});
+    for (const char* name : {"wv001.wav", "wv001.ddt", "wv001.txt", "wv001.mrk", "qv002.wav", "report.rtf", "a.f0"}) {
+        root.write(std::string("pac002/") + name, "x");
+    }
+    root.write("pac001/wv001.wav", "keep");
+    ProgramOnRoot program(root.path());
+    CAbrirPaciente dialog(program.frame());
+    dialog.list()->selectRow(1);
+    program.prompt.answers = {false};
+    dialog.deleteClient();
+    QCOMPARE(program.prompt.last(), std::string(kConfirmDeleteClient));
+    QVERIFY(std::filesystem::exists(root / "pac002/qv002.wav"));
+    QCOMPARE(readDbfRows(root / "pacb.dbf").size(), std::size_t(3));
+
+    program.prompt.answers = {true};
+    dialog.deleteClient();
+    QVERIFY(!std::filesystem::exists(root / "pac002"));
+    QVERIFY(std::filesystem::exists(root / "pac001/wv001.wav"));
+    const auto rows = readDbfRows(root / "pacb.dbf");
+    QCOMPARE(rows.size(), std::size_t(2));
+    QCOMPARE(trimmed(rows[0].nome), std::string("Ana"));
+    QCOMPARE(trimmed(rows[1].nome), std::string("Caio"));
+    QCOMPARE(column(dialog.list(), 1), QStringList({"Ana", "Caio"}));
+
+    // A file the deletion does not know keeps the folder; the client goes from the table all the same.
+    root.write("pac003/wv001.bkp", "");
+    dialog.list()->selectRow(1);
+    dialog.deleteClient();
+    QCOMPARE(program.prompt.last(), std::string("Client´s folder can´t be deleted!"));
+    QVERIFY(std::filesystem::exists(root / "pac003/wv001.bkp"));
+    QCOMPARE(readDbfRows(root / "pacb.dbf").size(), std::size_t(1));
+}
+
+void CAbrirPacienteTest::deletingTheOpenClientLeavesNoClient() {
+    DataRoot root({{1, "Ana"}, {2, "Bia"}});
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    frame.CurrentClient = makeRecord({2, "Bia"});
+    frame.UpdateCommands();
+    QVERIFY(frame.command(32817)->isEnabled());
+    CAbrirPaciente dialog(frame);
+    dialog.list()->selectRow(1);
+    dialog.deleteClient();
+    QCOMPARE(frame.CurrentClient.Codigo, -1);
+    QVERIFY(!frame.command(32817)->isEnabled());
+    QVERIFY(!frame.command(32784)->isEnabled());
+    QCOMPARE(frame.windowTitle(), QString("Sonalys"));
+}
+
+void CAbrirPacienteTest::deletingAClientGoneMeanwhileTouchesNothing() {
+    DataRoot root({{1, "Ana"}, {2, "Bia"}});
+    root.write("pac002/wv001.wav", "x");
+    ProgramOnRoot program(root.path());
+    CAbrirPaciente dialog(program.frame());
+    dialog.list()->selectRow(1);
+    // Another copy of the program deletes Bia while the list is open.
+    {
+        FakePrompt other;
+        CPacienteTable table(root.path(), other);
+        table.DeleteClient(table.LoadClients("CODIGO=2"));
+    }
+    dialog.deleteClient();
+    QCOMPARE(program.prompt.last(), std::string(kClientNoLongerInTable));
+    const auto rows = readDbfRows(root / "pacb.dbf");
+    QCOMPARE(rows.size(), std::size_t(1));
+    QCOMPARE(trimmed(rows[0].nome), std::string("Ana"));  // the last row was not taken in Bia's place
+    QVERIFY(std::filesystem::exists(root / "pac002/wv001.wav"));
+    QCOMPARE(column(dialog.list(), 1), QStringList({"Ana"}));
+}
+
+void CAbrirPacienteTest::headerClickSortsByText() {
+    DataRoot root({{12, "Zeca"}, {3, "ana"}, {7, "Bruno"}});
+    ProgramOnRoot program(root.path());
+    CAbrirPaciente dialog(program.frame());
+    dialog.show();
+    dialog.list()->selectRow(0);  // Zeca
+    const auto clickHeader = [&](int section) {
+        QHeaderView* header = dialog.list()->header();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                          QPoint(header->sectionViewportPosition(section) + 10, header->height() / 2));
+    };
+    clickHeader(1);
+    QCOMPARE(column(dialog.list(), 1), QStringList({"Bruno", "Zeca", "ana"}));  // by the text as it stands
+    QCOMPARE(dialog.list()->selectedRow(), 1);                                  // the choice moves with its row
+    clickHeader(1);
+    QCOMPARE(column(dialog.list(), 1), QStringList({"ana", "Zeca", "Bruno"}));
+    clickHeader(0);
+    QCOMPARE(column(dialog.list(), 0), QStringList({"003", "007", "012"}));
+}
+
+QTEST_MAIN(CAbrirPacienteTest)
+#include "CAbrirPaciente_test.moc"

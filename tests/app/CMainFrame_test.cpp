@@ -1,0 +1,320 @@
+#include "app/CMainFrame.h"
+
+#include <QAction>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+#include "DataRoot.h"
+#include "ModalDriver.h"
+#include "ProgramOnRoot.h"
+#include "app/CAbrirPaciente.h"
+#include "app/CAbrirSessao.h"
+#include "app/CPaciente.h"
+#include "controls/ReportList.h"
+#include "store/ByteOrder.h"
+#include "view/CAFView.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kOpenClient = 32812, kNewClient = 32811, kPersonalInformation = 32817, kDeleteClient = 1040,
+              kOpenRecording = 32784;
+
+// A copy of the bundled demo data root, to work on freely.
+struct DemoCopy : TempDir {
+    DemoCopy() { fs::copy(fs::path(SONALYS_SOURCE_DIR) / "demo", path(), fs::copy_options::recursive); }
+};
+
+std::vector<std::pair<std::string, std::string>> tableRows(const fs::path& root) {
+    std::vector<std::pair<std::string, std::string>> rows;
+    for (const DbfRow& row : readDbfRows(root / "pacb.dbf")) rows.emplace_back(trimmed(row.codigo), trimmed(row.nome));
+    return rows;
+}
+
+bool enabled(CMainFrame& frame, int id) {
+    frame.UpdateCommands();
+    return frame.command(id)->isEnabled();
+}
+
+// Answers the client list by choosing the row whose name is `name`, then pressing `buttonName`.
+void inClientList(const QString& name, const char* buttonName, std::function<void()> next = {}) {
+    ModalDriver::whenModal([=](QWidget* modal) {
+        auto* list = qobject_cast<CAbrirPaciente*>(modal);
+        for (int row = 0; row < list->list()->rowCount(); ++row) {
+            if (list->list()->cellText(row, 1) == name) list->list()->selectRow(row);
+        }
+        if (next) next();
+        list->findChild<QPushButton*>(buttonName)->click();
+    });
+}
+
+// Answers the client form: the name typed anew, a type, and a birth date typed key by key in English order.
+void inClientForm(const QString& name, const char* type, const QString& monthDayYear) {
+    ModalDriver::whenModal([=](QWidget* modal) {
+        auto* form = qobject_cast<CPaciente*>(modal);
+        auto* nameBox = form->findChild<QLineEdit*>("name");
+        nameBox->selectAll();
+        QTest::keyClicks(nameBox, name);
+        form->findChild<QRadioButton*>(type)->setChecked(true);
+        form->findChild<QLineEdit*>("month")->setFocus();
+        for (const QChar key : monthDayYear) QTest::keyClicks(form->focusWidget(), QString(key));
+        form->findChild<QPushButton*>("ok")->click();
+    });
+}
+
+}  // namespace
+
+class CMainFrameTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void clientCommandsNeedAClient();
+    void openCreateEditAndDeleteAClientOnTheDemoRoot();
+    void aRecordingChosenFromTheListGoesToTheView();
+    void otherFilesWorksWithoutAClient();
+    void otherFilesOpensAnySoundAndTheDialogLeavesNoTrace();
+    void aSoundOfOtherFilesIsShownFoldedOrRefused();
+    void aClientWhoseFolderIsGoneCannotBeOpened();
+    void anUnknownTypeKeepsTheRange();
+};
+
+void CMainFrameTest::clientCommandsNeedAClient() {
+    DemoCopy root;
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    QCOMPARE(frame.windowTitle(), QString("Sonalys"));
+    QVERIFY(enabled(frame, kOpenClient) && enabled(frame, kNewClient));
+    QVERIFY(!enabled(frame, kPersonalInformation) && !enabled(frame, kDeleteClient) && !enabled(frame, kOpenRecording));
+    frame.CurrentClient = makeRecord({1, "Maria"});
+    QVERIFY(enabled(frame, kPersonalInformation) && enabled(frame, kDeleteClient) && enabled(frame, kOpenRecording));
+    // A client cannot be deleted while sound is playing or being recorded.
+    frame.view()->Playing = true;
+    QVERIFY(!enabled(frame, kDeleteClient));
+    QVERIFY(enabled(frame, kPersonalInformation));
+    frame.view()->Playing = false;
+    frame.view()->Recording = true;
+    QVERIFY(!enabled(frame, kDeleteClient));
+}
+
+void CMainFrameTest::openCreateEditAndDeleteAClientOnTheDemoRoot() {
+    DemoCopy root;
+    const auto demoRows = tableRows(root.path());
+    QCOMPARE(demoRows.size(), std::size_t(2));
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+
+    // Open: the demo's second client.
+    inClientList("Joao Pedro Almeida", "open");
+    frame.command(kOpenClient)->trigger();
+    QCOMPARE(frame.CurrentClient.Codigo, 2);
+    QCOMPARE(frame.windowTitle(), QString("Joao Pedro Almeida - Sonalys"));
+    QCOMPARE(frame.f0Range, (F0Range{70, 400}));
+    QVERIFY(enabled(frame, kPersonalInformation) && enabled(frame, kOpenRecording));
+    QCOMPARE(tableRows(root.path()), demoRows);
+
+    // Create: from the list's New Client button; the lowest free code, its folder, and it becomes the client.
+    inClientList(QString(), "newClient", [] { inClientForm("Lucia Ferreira", "woman", "07041990"); });
+    frame.command(kOpenClient)->trigger();
+    QVERIFY2(program.prompt.shown.empty(), program.prompt.last().c_str());
+    auto rows = tableRows(root.path());
+    QCOMPARE(rows.size(), std::size_t(3));
+    QCOMPARE(rows[2], (std::pair<std::string, std::string>{"3", "Lucia Ferreira"}));
+    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf")[2].datanasc), std::string("07041990"));
+    QVERIFY(fs::is_directory(root / "pac003"));
+    QCOMPARE(frame.CurrentClient.Codigo, 3);
+    QCOMPARE(frame.windowTitle(), QString("Lucia Ferreira - Sonalys"));
+    QCOMPARE(frame.f0Range, (F0Range{120, 400}));
+
+    // Edit from the menu: the new client becomes a singer with another name.
+    inClientForm("Lucia F. Souza", "singer", "");
+    frame.command(kPersonalInformation)->trigger();
+    rows = tableRows(root.path());
+    QCOMPARE(rows.size(), std::size_t(3));
+    QCOMPARE(rows[2], (std::pair<std::string, std::string>{"3", "Lucia F. Souza"}));
+    QCOMPARE(rows[0], demoRows[0]);
+    QCOMPARE(rows[1], demoRows[1]);
+    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf")[2].tipo), std::string("3"));
+    QCOMPARE(frame.windowTitle(), QString("Lucia F. Souza - Sonalys"));
+    QCOMPARE(frame.f0Range, (F0Range{100, 1000}));
+
+    // Delete from the menu: the folder and the row go, the demo's clients stay.
+    root.write("pac003/wv001.wav", "RIFF");
+    root.write("pac003/wv001.dat", "x");
+    program.prompt.answers = {true};
+    frame.command(kDeleteClient)->trigger();
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{std::string(kConfirmDeleteClient)});
+    QVERIFY(!fs::exists(root / "pac003"));
+    QCOMPARE(tableRows(root.path()), demoRows);
+    QVERIFY(fs::exists(root / "pac001/wv001.wav") && fs::exists(root / "pac002/qv001.wav"));
+    QCOMPARE(frame.CurrentClient.Codigo, -1);
+    QCOMPARE(frame.windowTitle(), QString("Sonalys"));
+    QVERIFY(!enabled(frame, kPersonalInformation) && !enabled(frame, kOpenRecording));
+}
+
+void CMainFrameTest::aRecordingChosenFromTheListGoesToTheView() {
+    DemoCopy root;
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    inClientList("Maria Helena Costa", "open");
+    frame.command(kOpenClient)->trigger();
+    QSignalSpy chosen(&frame, &CMainFrame::recordingChosen);
+    ModalDriver::whenModal([](QWidget* modal) {
+        auto* list = qobject_cast<CAbrirSessao*>(modal);
+        QCOMPARE(list->windowTitle(), QString("Maria Helena Costa - Files"));
+        QCOMPARE(list->list()->rowCount(), 2);
+        for (int row = 0; row < 2; ++row) {
+            if (list->list()->cellText(row, 0).endsWith("File 2")) list->list()->selectRow(row);
+        }
+        list->open();
+    });
+    frame.command(kOpenRecording)->trigger();
+    QCOMPARE(chosen.count(), 1);
+    QCOMPARE(chosen.at(0).at(0).toInt(), 2);
+    QCOMPARE(chosen.at(0).at(1).value<FileKind>(), FileKind::WvWithoutDate);
+    // The view shows it, and the window's title names the client and the recording.
+    QCOMPARE(frame.view()->displayMode(), DisplayMode::FileSpectrogramMode);
+    QCOMPARE(frame.view()->loadedRecording().RecordingNumber, 2);
+    QCOMPARE(frame.windowTitle(), QString("Maria Helena Costa  File - 2 - Sonalys"));
+    QVERIFY(frame.view()->action(kIdShowSpectrum)->isEnabled());
+    QVERIFY(program.prompt.shown.empty());
+}
+
+void CMainFrameTest::aSoundOfOtherFilesIsShownFoldedOrRefused() {
+    DemoCopy root;
+    // Two seconds of a stereo sound at 22050 Hz whose channels differ, and a sound at a rate the view refuses.
+    const auto wave = [](std::uint32_t rate, std::uint16_t channels, std::size_t frames) {
+        std::vector<std::uint8_t> bytes;
+        for (const char c : std::string_view("RIFF")) bytes.push_back(static_cast<std::uint8_t>(c));
+        appendLE32(bytes, static_cast<std::uint32_t>(36 + frames * channels * 2));
+        for (const char c : std::string_view("WAVEfmt ")) bytes.push_back(static_cast<std::uint8_t>(c));
+        for (const std::uint32_t v : {16u}) appendLE32(bytes, v);
+        appendLE16(bytes, 1);
+        appendLE16(bytes, channels);
+        appendLE32(bytes, rate);
+        appendLE32(bytes, rate * channels * 2);
+        appendLE16(bytes, static_cast<std::uint16_t>(channels * 2));
+        appendLE16(bytes, 16);
+        for (const char c : std::string_view("data")) bytes.push_back(static_cast<std::uint8_t>(c));
+        appendLE32(bytes, static_cast<std::uint32_t>(frames * channels * 2));
+        for (std::size_t i = 0; i < frames * channels; ++i)
+            appendLE16(bytes, static_cast<std::uint16_t>(i % 2 ? 100 : 300));
+        return std::string(bytes.begin(), bytes.end());
+    };
+    root.write("Other Files/stereo.wav", wave(22050, 2, 44100));
+    root.write("Other Files/phone.wav", wave(8000, 1, 8000));
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    inClientList(QString(), "otherFiles");
+    frame.command(kOpenClient)->trigger();
+    const auto chooseInFileDialog = [&](const char* name, std::function<void()> next) {
+        ModalDriver::whenModal([=, &root](QWidget* modal) {
+            auto* dialog = qobject_cast<QFileDialog*>(modal);
+            dialog->selectFile(QString::fromStdString((root / "Other Files" / name).string()));
+            if (next) next();
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+    };
+    chooseInFileDialog("stereo.wav", [] {
+        ModalDriver::whenModal([](QWidget* modal) {
+            QCOMPARE(modal->windowTitle(), QString("Open File"));
+            modal->findChild<QPushButton*>("open")->click();  // Mix Channels, as checked
+        });
+    });
+    frame.command(kOpenRecording)->trigger();
+    const LoadedRecording& shown = frame.view()->loadedRecording();
+    QCOMPARE(shown.SampleCount(), std::size_t{44100});
+    QCOMPARE(shown.samples()[0], std::int16_t{200});
+    QVERIFY(shown.OpenedStereoAsMono);
+    QVERIFY(frame.windowTitle().startsWith("File - "));
+    QVERIFY(frame.windowTitle().endsWith("stereo.wav - Sonalys"));
+
+    chooseInFileDialog("phone.wav", {});
+    frame.command(kOpenRecording)->trigger();
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{"File rate must be 44100 Hz, 22050 Hz or 11025 Hz!"});
+    QCOMPARE(frame.view()->displayMode(), DisplayMode::ModeEmpty);
+    QCOMPARE(frame.windowTitle(), QString("default - Sonalys"));
+}
+
+void CMainFrameTest::otherFilesWorksWithoutAClient() {
+    DemoCopy root;
+    fs::remove_all(root / "Other Files");
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    const auto demoRows = tableRows(root.path());
+    inClientList(QString(), "otherFiles");
+    frame.command(kOpenClient)->trigger();
+    QVERIFY(fs::is_directory(root / "Other Files"));
+    QCOMPARE(frame.CurrentClient.Codigo, 99999);
+    QCOMPARE(frame.windowTitle(), QString("default - Sonalys"));
+    QCOMPARE(frame.f0Range, (F0Range{70, 1000}));
+    QVERIFY(enabled(frame, kOpenRecording));
+
+    // Deleting in Other Files empties and removes the folder, and leaves the client table alone.
+    root.write("Other Files/voice.wav", "RIFF");
+    program.prompt.answers = {true};
+    frame.command(kDeleteClient)->trigger();
+    QVERIFY(!fs::exists(root / "Other Files"));
+    QCOMPARE(tableRows(root.path()), demoRows);
+    QCOMPARE(frame.CurrentClient.Codigo, -1);
+}
+
+void CMainFrameTest::otherFilesOpensAnySoundAndTheDialogLeavesNoTrace() {
+    DemoCopy root;
+    root.write("Other Files/voice.wav", "RIFF");
+    const QString qtSettings = QSettings(QSettings::UserScope, "QtProject").fileName();
+    QFile::remove(qtSettings);
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    inClientList(QString(), "otherFiles");
+    frame.command(kOpenClient)->trigger();
+    QSignalSpy chosen(&frame, &CMainFrame::recordingFileChosen);
+    const QString voice = QString::fromStdString((root / "Other Files/voice.wav").string());
+    ModalDriver::whenModal([&](QWidget* modal) {
+        auto* dialog = qobject_cast<QFileDialog*>(modal);
+        QCOMPARE(QFileInfo(dialog->directory().absolutePath()).canonicalFilePath(), QFileInfo(voice).canonicalPath());
+        dialog->selectFile(voice);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    frame.command(kOpenRecording)->trigger();
+    QCOMPARE(chosen.count(), 1);
+    QCOMPARE(QFileInfo(chosen.at(0).at(0).toString()).canonicalFilePath(), QFileInfo(voice).canonicalFilePath());
+    QVERIFY(!QFile::exists(qtSettings));
+}
+
+void CMainFrameTest::aClientWhoseFolderIsGoneCannotBeOpened() {
+    DemoCopy root;
+    fs::remove_all(root / "pac002");
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    inClientList("Joao Pedro Almeida", "open");
+    frame.command(kOpenClient)->trigger();
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{"Error Acessing Client´s folder !"});
+    QCOMPARE(frame.CurrentClient.Codigo, -1);
+    QVERIFY(!enabled(frame, kOpenRecording));
+}
+
+void CMainFrameTest::anUnknownTypeKeepsTheRange() {
+    DataRoot root({{1, "Ana", 1}, {2, "Odd", 7}});
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    inClientList("Ana", "open");
+    frame.command(kOpenClient)->trigger();
+    QCOMPARE(frame.f0Range, (F0Range{120, 400}));
+    inClientList("Odd", "open");
+    frame.command(kOpenClient)->trigger();
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{"Undefined Type!"});
+    QCOMPARE(frame.f0Range, (F0Range{120, 400}));
+    QCOMPARE(frame.CurrentClient.Codigo, 2);
+}
+
+QTEST_MAIN(CMainFrameTest)
+#include "CMainFrame_test.moc"

@@ -1,0 +1,304 @@
+#include "app/CPaciente.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include "DataRoot.h"
+#include "FakePrompt.h"
+#include "controls/DigitBox.h"
+
+Q_DECLARE_METATYPE(LanguageId)
+
+namespace {
+
+struct Form {
+    DataRoot& root;
+    FakePrompt prompt;
+    CPacienteTable table{root.path(), prompt};
+    PacienteRecord current;
+    std::unique_ptr<CPaciente> dialog;
+
+    Form(DataRoot& dataRoot, CPaciente::Mode mode, const PacienteRecord& record,
+         LanguageId language = LanguageId::English)
+        : root(dataRoot) {
+        table.SetFileName(std::string(kClientTableName));
+        dialog = std::make_unique<CPaciente>(mode, record, table, current, root.path(), language, prompt);
+        dialog->show();
+    }
+    QLineEdit* box(const char* name) const { return dialog->findChild<QLineEdit*>(name); }
+    void check(const char* type) const { dialog->findChild<QRadioButton*>(type)->setChecked(true); }
+    // Types into whichever box has the focus, one key at a time, as a person does.
+    void type(const QString& keys) const {
+        for (const QChar key : keys) {
+            QWidget* target = dialog->focusWidget();
+            if (key.unicode() < 128) {
+                QTest::keyClicks(target, QString(key));
+            } else {  // a letter beyond ASCII arrives as text, as from a keyboard layout or input method
+                QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(key));
+                QApplication::sendEvent(target, &press);
+            }
+        }
+    }
+    void typeInto(const char* name, const QString& keys) const {
+        box(name)->setFocus();
+        type(keys);
+    }
+    void ok() const { dialog->findChild<QPushButton*>("ok")->click(); }
+};
+
+PacienteRecord proposed(int code) {
+    PacienteRecord record;
+    record.Codigo = code;
+    return record;
+}
+
+}  // namespace
+
+class CPacienteTest : public QObject {
+    Q_OBJECT
+private slots:
+    void birthDateIsTypedInTheLanguagesOrder_data();
+    void birthDateIsTypedInTheLanguagesOrder();
+    void outOfRangeDigitsWarnAndClearTheBox();
+    void singleDigitsCompleteWithoutMovingOn();
+    void okChecksNameTypeAndDateInOrder();
+    void dateIsStoredMonthDayYearOrEmpty();
+    void insertAddsTheRowAndFolderAndMakesTheClientCurrent();
+    void insertReusesAnOldFolderOfTheSameCode();
+    void editRewritesOnlyThatClientsRow();
+    void editOfAClientGoneFromTheTableChangesNothing();
+    void textsAreLimitedToTheirFieldsInTheTablesCodePage();
+};
+
+void CPacienteTest::birthDateIsTypedInTheLanguagesOrder_data() {
+    QTest::addColumn<LanguageId>("language");
+    QTest::addColumn<QString>("firstBox");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QStringList>("focusAfter");
+    QTest::newRow("English: month, day, year")
+        << LanguageId::English << "month" << QStringList{"03", "14", "1975"} << QStringList{"day", "year", "address"};
+    QTest::newRow("Korean: year, month, day")
+        << LanguageId::Korean << "year" << QStringList{"1975", "03", "14"} << QStringList{"month", "day", "address"};
+    QTest::newRow("Spanish: day, month, year")
+        << LanguageId::Spanish << "day" << QStringList{"14", "03", "1975"} << QStringList{"month", "year", "address"};
+    QTest::newRow("Portuguese: day, month, year") << LanguageId::Portuguese << "day" << QStringList{"14", "03", "1975"}
+                                                  << QStringList{"month", "year", "address"};
+}
+
+void CPacienteTest::birthDateIsTypedInTheLanguagesOrder() {
+    QFETCH(LanguageId, language);
+    QFETCH(QString, firstBox);
+    QFETCH(QStringList, keys);
+    QFETCH(QStringList, focusAfter);
+    DataRoot root;
+    Form form(root, CPaciente::InsertMode, proposed(1), language);
+    form.typeInto("name", "Ana Souza");
+    form.check("woman");
+    form.box(firstBox.toLatin1().constData())->setFocus();
+    for (int i = 0; i < keys.size(); ++i) {
+        form.type(keys[i]);
+        QCOMPARE(form.dialog->focusWidget()->objectName(), focusAfter[i]);
+    }
+    QVERIFY(form.dialog->dayComplete() && form.dialog->monthComplete() && form.dialog->yearComplete());
+    form.ok();
+    QVERIFY(form.prompt.shown.empty());
+    QCOMPARE(form.dialog->result(), int(QDialog::Accepted));
+    // Whatever the order of entry, the table keeps month, day, year.
+    QCOMPARE(std::string(recordText(form.dialog->record().DataNasc)), std::string("03141975"));
+    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf").at(0).datanasc), std::string("03141975"));
+}
+
+void CPacienteTest::outOfRangeDigitsWarnAndClearTheBox() {
+    DataRoot root;
+    Form form(root, CPaciente::InsertMode, proposed(1));
+    form.typeInto("day", "00");
+    QCOMPARE(form.prompt.last(), std::string("Invalid Day !"));
+    QCOMPARE(form.box("day")->text(), QString());
+    QVERIFY(!form.dialog->dayComplete());
+    form.typeInto("day", "32");
+    QCOMPARE(form.prompt.shown.size(), std::size_t(2));
+    form.typeInto("month", "13");
+    QCOMPARE(form.prompt.last(), std::string("Invalid Month !"));
+    QCOMPARE(form.box("month")->text(), QString());
+    form.typeInto("year", "1889");
+    QCOMPARE(form.prompt.last(), std::string("Invalid Year \nRange: 1890 to 2050"));
+    QCOMPARE(form.box("year")->text(), QString());
+    form.typeInto("year", "2051");
+    QCOMPARE(form.prompt.shown.size(), std::size_t(5));
+    // The limits themselves pass.
+    form.typeInto("day", "31");
+    form.typeInto("month", "12");
+    form.typeInto("year", "1890");
+    QCOMPARE(form.prompt.shown.size(), std::size_t(5));
+    QVERIFY(form.dialog->dayComplete() && form.dialog->monthComplete() && form.dialog->yearComplete());
+    // Letters never reach a date box.
+    form.box("day")->clear();
+    form.typeInto("day", "a");
+    QCOMPARE(form.box("day")->text(), QString());
+}
+
+void CPacienteTest::singleDigitsCompleteWithoutMovingOn() {
+    DataRoot root;
+    Form form(root, CPaciente::InsertMode, proposed(1));
+    form.typeInto("day", "5");
+    QVERIFY(form.dialog->dayComplete());
+    QCOMPARE(form.dialog->focusWidget()->objectName(), QString("day"));
+    form.box("day")->clear();
+    form.typeInto("day", "0");
+    QVERIFY(!form.dialog->dayComplete());
+    form.typeInto("month", "9");
+    QVERIFY(form.dialog->monthComplete());
+    form.typeInto("year", "197");
+    QVERIFY(!form.dialog->yearComplete());
+}
+
+void CPacienteTest::okChecksNameTypeAndDateInOrder() {
+    DataRoot root;
+    Form form(root, CPaciente::InsertMode, proposed(1));
+    form.typeInto("name", "A");
+    form.ok();
+    QCOMPARE(form.prompt.last(), std::string("You need to type the client´s name!"));
+    form.typeInto("name", "n");
+    form.ok();
+    QCOMPARE(form.prompt.last(), std::string("The Client is Man/Woman, Singer or Child?"));
+    form.check("child");
+    form.typeInto("day", "12");
+    form.typeInto("month", "05");
+    form.ok();
+    QCOMPARE(form.prompt.last(), std::string("Invalid Year (it must have 4 digits)\nSample.: 1974"));
+    QCOMPARE(form.dialog->focusWidget()->objectName(), QString("year"));
+    QVERIFY(form.dialog->isVisible());
+    QVERIFY(readDbfRows(root / "pacb.dbf").empty());
+    form.type("2015");
+    form.ok();
+    QCOMPARE(form.prompt.shown.size(), std::size_t(3));
+    QCOMPARE(form.dialog->result(), int(QDialog::Accepted));
+    QCOMPARE(form.dialog->record().Tipo, 2);
+}
+
+void CPacienteTest::dateIsStoredMonthDayYearOrEmpty() {
+    struct Case {
+        const char* day;
+        const char* month;
+        const char* year;
+        const char* stored;
+    };
+    // 31 February passes: days are not checked against the month. A day alone, or no date, stores nothing.
+    for (const Case& c : {Case{"31", "02", "2000", "02312000"}, Case{"7", "3", "1950", "03071950"},
+                          Case{"15", "", "", ""}, Case{"", "", "", ""}, Case{"", "", "1980", ""}}) {
+        DataRoot root;
+        Form form(root, CPaciente::InsertMode, proposed(1));
+        form.typeInto("name", "Bruno");
+        form.check("man");
+        form.typeInto("day", c.day);
+        form.typeInto("month", c.month);
+        form.typeInto("year", c.year);
+        form.ok();
+        QVERIFY2(form.prompt.shown.empty(), c.stored);
+        QCOMPARE(std::string(recordText(form.dialog->record().DataNasc)), std::string(c.stored));
+    }
+}
+
+void CPacienteTest::insertAddsTheRowAndFolderAndMakesTheClientCurrent() {
+    DataRoot root({{1, "Ana"}});
+    Form form(root, CPaciente::InsertMode, proposed(2));
+    QCOMPARE(form.box("code")->text(), QString("002"));
+    QCOMPARE(form.dialog->findChild<QPushButton*>("ok")->text(), QString("Insert"));
+    form.typeInto("name", "Carla Dias");
+    form.check("singer");
+    form.typeInto("city", "Porto");
+    form.typeInto("observations", "rouquidão");
+    form.ok();
+    QVERIFY(form.prompt.shown.empty());
+    QVERIFY(std::filesystem::is_directory(root / "pac002"));
+    QCOMPARE(form.current.Codigo, 2);
+    QCOMPARE(std::string(recordText(form.current.Nome)), std::string("Carla Dias"));
+    const auto rows = readDbfRows(root / "pacb.dbf");
+    QCOMPARE(rows.size(), std::size_t(2));
+    QCOMPARE(rows[1].codigo, std::string("2   "));
+    QCOMPARE(trimmed(rows[1].nome), std::string("Carla Dias"));
+    QCOMPARE(rows[1].tipo, std::string("3   "));
+    // Text goes to the table in the Western code page: "ã" is the single byte 0xE3.
+    QCOMPARE(std::string(recordText(form.current.Obs)), std::string("rouquid\xE3o"));
+}
+
+void CPacienteTest::insertReusesAnOldFolderOfTheSameCode() {
+    DataRoot root;
+    root.write("PAC004/wv001.wav", "RIFF");  // left behind by an old client, spelled by another system
+    Form form(root, CPaciente::InsertMode, proposed(4));
+    form.typeInto("name", "Davi");
+    form.check("man");
+    form.ok();
+    QCOMPARE(form.prompt.shown, std::vector<std::string>{"The Client´s Folder already exist"});
+    QCOMPARE(form.dialog->result(), int(QDialog::Accepted));
+    QVERIFY(!std::filesystem::exists(root / "pac004"));
+    QVERIFY(std::filesystem::exists(root / "PAC004/wv001.wav"));
+}
+
+void CPacienteTest::editRewritesOnlyThatClientsRow() {
+    DataRoot root({{1, "Ana", 1, "01021990"}, {2, "Bia", 1}, {3, "Caio", 0}});
+    Form form(root, CPaciente::EditMode, makeRecord({2, "Bia", 1}));
+    QCOMPARE(form.dialog->findChild<QPushButton*>("ok")->text(), QString("Change"));
+    QVERIFY(form.dialog->findChild<QRadioButton*>("woman")->isChecked());
+    form.box("name")->selectAll();
+    form.type("Beatriz");
+    form.typeInto("month", "11");
+    form.type("30");
+    form.type("2001");
+    form.ok();
+    QVERIFY(form.prompt.shown.empty());
+    const auto rows = readDbfRows(root / "pacb.dbf");
+    QCOMPARE(rows.size(), std::size_t(3));
+    QCOMPARE(trimmed(rows[0].nome), std::string("Ana"));
+    QCOMPARE(trimmed(rows[0].datanasc), std::string("01021990"));
+    QCOMPARE(trimmed(rows[1].nome), std::string("Beatriz"));
+    QCOMPARE(trimmed(rows[1].datanasc), std::string("11302001"));
+    QCOMPARE(trimmed(rows[2].nome), std::string("Caio"));
+
+    // A stored date fills the three boxes, complete.
+    Form again(root, CPaciente::EditMode, makeRecord({1, "Ana", 1, "01021990"}));
+    QCOMPARE(again.box("month")->text(), QString("01"));
+    QCOMPARE(again.box("day")->text(), QString("02"));
+    QCOMPARE(again.box("year")->text(), QString("1990"));
+    QVERIFY(again.dialog->dayComplete() && again.dialog->monthComplete() && again.dialog->yearComplete());
+}
+
+void CPacienteTest::editOfAClientGoneFromTheTableChangesNothing() {
+    DataRoot root({{1, "Ana"}, {2, "Bia"}});
+    Form form(root, CPaciente::EditMode, makeRecord({3, "Gone"}));  // no row of code 3
+    form.check("man");
+    form.ok();
+    QCOMPARE(form.prompt.shown, std::vector<std::string>{std::string(kClientNoLongerInTable)});
+    QCOMPARE(form.dialog->result(), int(QDialog::Rejected));
+    const auto rows = readDbfRows(root / "pacb.dbf");
+    QCOMPARE(rows.size(), std::size_t(2));
+    QCOMPARE(trimmed(rows[1].nome), std::string("Bia"));  // the last row is not overwritten
+}
+
+void CPacienteTest::textsAreLimitedToTheirFieldsInTheTablesCodePage() {
+    DataRoot root;
+    Form form(root, CPaciente::InsertMode, proposed(1));
+    form.typeInto("name", QString(70, 'x'));
+    QCOMPARE(form.box("name")->text().size(), 59);
+    form.typeInto("state", "ABCD");
+    QCOMPARE(form.box("state")->text(), QString("ABC"));
+    form.typeInto("city", QString::fromUtf8("São José"));
+    QCOMPARE(form.box("city")->text(), QString::fromUtf8("São José"));
+    // A character the Western code page lacks cannot be typed in English.
+    form.box("address")->clear();
+    form.typeInto("address", QString::fromUtf8("서울"));
+    QCOMPARE(form.box("address")->text(), QString());
+
+    // In Korean a Hangul syllable takes two of the field's bytes.
+    Form korean(root, CPaciente::InsertMode, proposed(1), LanguageId::Korean);
+    korean.typeInto("state", QString::fromUtf8("서울시"));
+    QCOMPARE(korean.box("state")->text(), QString::fromUtf8("서"));
+}
+
+QTEST_MAIN(CPacienteTest)
+#include "CPaciente_test.moc"

@@ -1,0 +1,25 @@
+// The whole program started on a data root, as the tests of its windows need it: no splash, no desktop program
+// started, and a scripted prompt.
+#pragma once
+
+#include <memory>
+
+#include "FakePrompt.h"
+#include "app/CAFApp.h"
+#include "app/CMainFrame.h"
+
+struct ProgramOnRoot {
+    FakePrompt prompt;
+    std::unique_ptr<CAFApp> app;
+
+    explicit ProgramOnRoot(const std::filesystem::path& root, LanguageId language = LanguageId::English) {
+        app = std::make_unique<CAFApp>(root, prompt);
+        app->startProgram = [](const QString&, const QStringList&) { return false; };
+        app->InitInstance({"sonalys", "-Embedding"});
+        if (language != LanguageId::English) {
+            app->setLanguageId(language);
+            app->SetLanguage();
+        }
+    }
+    CMainFrame& frame() const { return *app->mainFrame(); }
+};

@@ -1,0 +1,136 @@
+// Pictures of the main window and of the client and recording dialogs over it, at two screen sizes, saved under
+// the build tree for a person to look at. Each picture is checked for the one fault a machine can see: a
+// dialog that does not fit on the screen, or text cut by its box.
+#include <QDir>
+#include <QLabel>
+#include <QPainter>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include "ProgramOnRoot.h"
+#include "TempDir.h"
+#include "app/CAboutDlg.h"
+#include "app/CAbrirPaciente.h"
+#include "app/CAbrirSessao.h"
+#include "app/CPaciente.h"
+#include "app/CSplashWnd.h"
+#include "clients/CPacienteTable.h"
+#include "controls/ReportList.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct DemoCopy : TempDir {
+    DemoCopy() { fs::copy(fs::path(SONALYS_SOURCE_DIR) / "demo", path(), fs::copy_options::recursive); }
+};
+
+QString pictureFolder() {
+    const QString folder = QStringLiteral(SONALYS_SCREENSHOT_DIR);
+    QDir().mkpath(folder);
+    return folder;
+}
+
+// The main window as the screen shows it, with `dialog` centred over it when there is one.
+QImage screen(QWidget& frame, QWidget* dialog) {
+    QImage picture(frame.size(), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    QPainter painter(&picture);
+    painter.drawPixmap(0, 0, frame.grab());
+    if (dialog != nullptr) {
+        // The desktop draws a dialog's title bar; here a plain one stands in for it.
+        const bool titled = !dialog->windowFlags().testFlag(Qt::FramelessWindowHint);
+        const int titleHeight = titled ? dialog->fontMetrics().height() + 10 : 0;
+        const QPixmap window = dialog->grab();
+        const QPoint at((frame.width() - window.width()) / 2, (frame.height() - window.height() + titleHeight) / 2);
+        const QRect title(at.x(), at.y() - titleHeight, window.width(), titleHeight);
+        painter.fillRect(title.united(QRect(at, window.size())).translated(4, 4), QColor(0, 0, 0, 90));
+        painter.fillRect(title, QColor(0x0b, 0x3c, 0x49));
+        painter.setPen(Qt::white);
+        painter.drawText(title.adjusted(8, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, dialog->windowTitle());
+        painter.drawPixmap(at, window);
+        painter.setPen(QColor(0x0b, 0x3c, 0x49));
+        painter.drawRect(title.united(QRect(at, window.size())).adjusted(0, 0, -1, -1));
+    }
+    return picture;
+}
+
+// Every button and label shows its whole text in the room it has.
+void verifyTextsFit(QWidget* window) {
+    for (const QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty()) continue;
+        QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(button->text()));
+    }
+    for (const QLabel* label : window->findChildren<QLabel*>()) {
+        if (!label->isVisible() || label->text().isEmpty()) continue;
+        QVERIFY2(label->width() >= label->minimumSizeHint().width(), qPrintable(label->text()));
+    }
+}
+
+}  // namespace
+
+class ScreenshotsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void mainWindowAndDialogs_data();
+    void mainWindowAndDialogs();
+};
+
+void ScreenshotsTest::mainWindowAndDialogs_data() {
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("1024x768") << QSize(1024, 768);
+    QTest::newRow("1920x1080") << QSize(1920, 1080);
+}
+
+void ScreenshotsTest::mainWindowAndDialogs() {
+    QFETCH(QSize, size);
+    DemoCopy root;
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    frame.showNormal();
+    frame.resize(size);
+    QVERIFY(QTest::qWaitForWindowExposed(&frame));
+    const QString suffix = QString("-%1x%2.png").arg(size.width()).arg(size.height());
+    const QString folder = pictureFolder();
+    QVERIFY(screen(frame, nullptr).save(folder + "/main-window" + suffix));
+
+    CAbrirPaciente clients(frame);
+    clients.show();
+    clients.list()->selectRow(0);
+    verifyTextsFit(&clients);
+    QVERIFY(clients.width() <= size.width() && clients.height() <= size.height());
+    QVERIFY(screen(frame, &clients).save(folder + "/client-list" + suffix));
+    clients.close();
+
+    CPacienteTable& table = frame.table();
+    table.LoadClients("CODIGO=1");
+    CPaciente form(CPaciente::EditMode, table.EntryAt(0)->record, table, frame.CurrentClient, root.path(),
+                   LanguageId::English, program.prompt, &frame);
+    form.show();
+    verifyTextsFit(&form);
+    QVERIFY(form.width() <= size.width() && form.height() <= size.height());
+    QVERIFY(screen(frame, &form).save(folder + "/client-form" + suffix));
+    form.close();
+
+    CAboutDlg about(true, &frame);
+    about.show();
+    verifyTextsFit(&about);
+    QVERIFY(screen(frame, &about).save(folder + "/about" + suffix));
+    about.close();
+
+    QPointer<CSplashWnd> splash = CSplashWnd::ShowSplashScreen(&frame, LanguageId::English);
+    QVERIFY(screen(frame, splash).save(folder + "/splash" + suffix));
+    splash->close();
+
+    frame.CurrentClient = table.EntryAt(0)->record;
+    CAbrirSessao recordings(frame.CurrentClient, root.path(), LanguageId::English, program.prompt, false, &frame);
+    recordings.show();
+    recordings.list()->selectRow(0);
+    verifyTextsFit(&recordings);
+    QVERIFY(screen(frame, &recordings).save(folder + "/recording-list" + suffix));
+}
+
+QTEST_MAIN(ScreenshotsTest)
+#include "Screenshots_test.moc"
