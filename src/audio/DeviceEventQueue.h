@@ -16,7 +16,8 @@ public:
     DeviceEventQueue& operator=(const DeviceEventQueue&) = delete;
 
     void post(Kind kind, std::function<void()> event);
-    void dropBufferEvents();  // withdraws every buffer event not yet delivered
+    void dropBufferEvents();            // withdraws every buffer event not yet delivered
+    void clear() { m_events.clear(); }  // withdraws every event
     std::size_t pending() const noexcept { return m_events.size(); }
 
 private:

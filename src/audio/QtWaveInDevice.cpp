@@ -26,10 +26,15 @@ QtWaveInDevice::QtWaveInDevice() {
 }
 
 QtWaveInDevice::~QtWaveInDevice() {
+    // Deleting a Qt stream runs the event loop for a moment: nothing of this device may be delivered then.
+    m_eventQueue.clear();
     m_pollTimer.stop();
-    if (!m_source) return;
-    m_source->disconnect();
-    m_source->stop();
+    if (m_source) {
+        m_source->disconnect();
+        m_source->stop();
+    }
+    m_source.reset();
+    m_retired.reset();
 }
 
 int QtWaveInDevice::open(const WaveFormat& format, WaveInEvents& events) {
@@ -115,11 +120,13 @@ int QtWaveInDevice::close() {
     if (!m_source) return MMSYSERR_INVALHANDLE;
     if (!m_queue.empty()) return WAVERR_STILLPLAYING;
     m_pollTimer.stop();
-    m_source->stop();
-    m_source.reset();
     m_started = false;
     m_eventQueue.dropBufferEvents();
     m_eventQueue.post(DeviceEventQueue::Kind::Other, [target = m_events] { target->waveInClosed(); });
+    m_source->disconnect();
+    m_source->stop();
+    m_retired = std::move(m_source);
+    QTimer::singleShot(0, &m_retirement, [this] { m_retired.reset(); });
     return MMSYSERR_NOERROR;
 }
 

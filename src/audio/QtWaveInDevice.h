@@ -36,6 +36,9 @@ private:
 
     DeviceEventQueue m_eventQueue;  // first made, last gone: the stream's last signals may still post
     std::unique_ptr<QAudioSource> m_source;
+    // A closed stream waits here for its deletion, which runs the event loop and so must not happen inside close().
+    std::unique_ptr<QAudioSource> m_retired;
+    QObject m_retirement;
     QPointer<QIODevice> m_stream;  // owned by m_source; gone when the sound system drops the stream
     QTimer m_pollTimer;
     WaveInEvents* m_events = nullptr;

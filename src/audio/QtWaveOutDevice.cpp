@@ -17,6 +17,8 @@ constexpr int kFeedMilliseconds = 5;
 constexpr int kStreamMicroseconds = 200'000;
 // Time allowed past the moment the last byte was reckoned to sound before the stream is let go.
 constexpr auto kCloseMargin = std::chrono::milliseconds(60);
+// Silence ahead of the first sound of a stream.
+constexpr int kLeadInMicroseconds = 30'000;
 
 }  // namespace
 
@@ -27,10 +29,15 @@ QtWaveOutDevice::QtWaveOutDevice() {
 }
 
 QtWaveOutDevice::~QtWaveOutDevice() {
+    // Deleting a Qt stream runs the event loop for a moment: nothing of this device may be delivered then.
+    m_eventQueue.clear();
     m_feedTimer.stop();
-    if (!m_sink) return;
-    m_sink->disconnect();
-    m_sink->stop();
+    if (m_sink) {
+        m_sink->disconnect();
+        m_sink->stop();
+    }
+    m_sink.reset();
+    m_retired.reset();
 }
 
 int QtWaveOutDevice::query(const WaveFormat& format) {
@@ -66,7 +73,10 @@ bool QtWaveOutDevice::ensureStream() {
     if (m_stream) return true;
     m_stream = m_sink->start();
     m_primed = false;
-    return m_stream && m_sink->error() == QAudio::NoError;
+    if (!m_stream || m_sink->error() != QAudio::NoError) return false;
+    // A sound server waking up for a new stream may swallow its first moments: let that be silence.
+    writeSilence(m_format.bytesForDuration(kLeadInMicroseconds));
+    return true;
 }
 
 void QtWaveOutDevice::watchForFailure() {
@@ -154,13 +164,14 @@ int QtWaveOutDevice::close() {
 
 void QtWaveOutDevice::finishClose() {
     m_feedTimer.stop();
-    m_sink->disconnect();
-    m_sink->stop();
-    m_sink.reset();
     m_stream = nullptr;
     m_closing = false;
     m_eventQueue.dropBufferEvents();
     m_eventQueue.post(DeviceEventQueue::Kind::Other, [target = m_events] { target->waveOutClosed(); });
+    m_sink->disconnect();
+    m_sink->stop();
+    m_retired = std::move(m_sink);
+    QTimer::singleShot(0, &m_retirement, [this] { m_retired.reset(); });
 }
 
 void QtWaveOutDevice::feed(bool topUp) {
@@ -185,14 +196,14 @@ void QtWaveOutDevice::feed(bool topUp) {
         m_sounding.push_back({pending.header, m_lastDue});
         m_pending.pop_front();
     }
-    if (topUp && m_pending.empty() && m_primed) writeSilence();
+    if (topUp && m_pending.empty() && m_primed) writeSilence(m_sink->bytesFree());
     handBackDue();
 }
 
-void QtWaveOutDevice::writeSilence() {
+void QtWaveOutDevice::writeSilence(qint64 most) {
     if (!m_stream) return;
     const int frame = m_format.bytesPerFrame();
-    const qint64 room = m_sink->bytesFree() / frame * frame;
+    const qint64 room = std::min(most, m_sink->bytesFree()) / frame * frame;
     if (room <= 0) return;
     const char silence = (m_format.sampleFormat() == QAudioFormat::UInt8) ? char(0x80) : char(0);
     const std::vector<char> bytes(static_cast<std::size_t>(room), silence);

@@ -47,7 +47,7 @@ private:
     bool ensureStream();
     void watchForFailure();
     void feed(bool topUp);
-    void writeSilence();
+    void writeSilence(qint64 most);  // at most `most` bytes, as many as fit
     void handBackDue();
     void handBack(WaveHeader& header);
     void finishClose();
@@ -55,6 +55,9 @@ private:
 
     DeviceEventQueue m_eventQueue;  // first made, last gone: the stream's last signals may still post
     std::unique_ptr<QAudioSink> m_sink;
+    // A closed stream waits here for its deletion, which runs the event loop and so must not happen inside close().
+    std::unique_ptr<QAudioSink> m_retired;
+    QObject m_retirement;
     QPointer<QIODevice> m_stream;  // owned by m_sink; null after a reset until the next write
     QAudioFormat m_format;
     QTimer m_feedTimer;
