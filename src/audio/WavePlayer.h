@@ -23,7 +23,7 @@ public:
     static constexpr int kSingleHeaderCount = 100;
 
     WavePlayer(WaveOutDevice& device, Prompt& prompt);
-    ~WavePlayer();
+    ~WavePlayer();  // stops a play still running: the headers it was given must still be there
     WavePlayer(const WavePlayer&) = delete;
     WavePlayer& operator=(const WavePlayer&) = delete;
 

@@ -53,8 +53,8 @@ int runPlay(CommandArgs words) {
     QCoreApplication application(argc, argv);
     ConsolePrompt prompt(std::cerr);
     QtWaveOutDevice device;
+    ChunkedPlayback play;  // outlives the player, which may still hand its headers back when it goes
     WavePlayer player(device, prompt);
-    ChunkedPlayback play;
     BasicPlayWindow window(player, play, prompt, input->samples.data(), count);
     window.onClosed = [] { QCoreApplication::quit(); };
     if (!player.Open(input->format, &window)) return 2;

@@ -30,8 +30,8 @@ class ChunkedPlaybackTest : public ::testing::Test {
 protected:
     FakePrompt prompt;
     FakeWaveOutDevice device;
+    ChunkedPlayback play;  // outlives the player, which may still hand its headers back when it goes
     WavePlayer player{device, prompt};
-    ChunkedPlayback play;
     std::vector<std::int16_t> samples;
     std::unique_ptr<BasicPlayWindow> window;
     std::size_t mostQueued = 0;

@@ -30,8 +30,8 @@ class WavePlayerTest : public ::testing::Test {
 protected:
     FakePrompt prompt;
     FakeWaveOutDevice device;
+    ChunkedPlayback play;  // outlives the player, which may still hand its headers back when it goes
     WavePlayer player{device, prompt};
-    ChunkedPlayback play;
     std::vector<std::int16_t> samples = std::vector<std::int16_t>(20000, 1);
     BasicPlayWindow window{player, play, prompt, samples.data(), static_cast<std::int64_t>(samples.size())};
 

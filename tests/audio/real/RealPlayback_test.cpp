@@ -48,8 +48,8 @@ protected:
     TempDir root;
     FakePrompt prompt;
     QtWaveOutDevice device;
+    ChunkedPlayback play;  // outlives the player, which may still hand its headers back when it goes
     WavePlayer player{device, prompt};
-    ChunkedPlayback play;
 };
 
 TEST_F(RealPlaybackTest, AChunkedPlaySoundsTheFileAndEndsOneChunkShort) {
