@@ -109,6 +109,17 @@ TEST_F(WaveRecorderTest, EveryBufferReachesTheScratchFileAtOnceAndTheTakeAtStop)
     EXPECT_TRUE(prompt.shown.empty());
 }
 
+TEST_F(WaveRecorderTest, TheWaitGoesOnUntilASlowDeviceHasHandedEverythingBack) {
+    device.resetDelayMilliseconds = 200;
+    start(100);
+    capture(75, 1);
+    recorder.Stop();
+    EXPECT_EQ(device.queued(), 100u);  // nothing back yet
+    recorder.WaitClosed();
+    EXPECT_TRUE(recorder.closed());
+    EXPECT_EQ(WaveLoad(take()).samples, countingValues(75, 1));
+}
+
 TEST_F(WaveRecorderTest, SoundWhilePausedIsThrownAwayAndAPauseByTheButtonDrainsTheQueue) {
     start(100);
     capture(100, 1);             // two buffers kept

@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QTimer>
 #include <algorithm>
 #include <cstring>
 
@@ -100,12 +101,20 @@ int FakeWaveInDevice::reset() {
     if (const int result = resetResults.next(); result != MMSYSERR_NOERROR) return result;
     if (!m_open) return MMSYSERR_INVALHANDLE;
     started = false;
+    if (resetDelayMilliseconds > 0) {
+        QTimer::singleShot(resetDelayMilliseconds, &m_timers, [this] { handBackAll(); });
+    } else {
+        handBackAll();
+    }
+    return MMSYSERR_NOERROR;
+}
+
+void FakeWaveInDevice::handBackAll() {
     while (!m_queue.empty()) {
         WaveHeader* header = m_queue.front();
         m_queue.pop_front();
         handBack(*header);
     }
-    return MMSYSERR_NOERROR;
 }
 
 int FakeWaveInDevice::close() {

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include <QObject>
+
 #include "audio/DeviceEventQueue.h"
 #include "audio/WaveDevice.h"
 #include "store/WaveFile.h"
@@ -32,6 +34,7 @@ public:
     WaveFormat openedFormat;
     std::vector<std::uint32_t> queuedLengths;  // dwBufferLength of every buffer queued, in order
     bool started = false;
+    int resetDelayMilliseconds = 0;  // a slow device: a reset hands the buffers back only after this long
 
     int open(const WaveFormat& format, WaveInEvents& events) override;
     int prepareHeader(WaveHeader& header) override;
@@ -53,10 +56,12 @@ public:
 private:
     void deliver();
     void handBack(WaveHeader& header);
+    void handBackAll();
 
     bool m_open = false;
     WaveInEvents* m_target = nullptr;
     std::deque<WaveHeader*> m_queue;
+    QObject m_timers;
     std::vector<std::uint8_t> m_waiting;
     DeviceEventQueue m_events;
 };
