@@ -18,6 +18,7 @@
 #include "TempDir.h"
 #include "audio/BasicWindows.h"
 #include "audio/QtWaveInDevice.h"
+#include "audio/SoundSystemExit.h"
 #include "audio/WaveRecorder.h"
 
 namespace {
@@ -113,5 +114,6 @@ int main(int argc, char** argv) {
     // At 44100 Hz: the engine's default buffer, and the smallest the Update Rate offers (735 bytes, 734 used).
     report("44100 Hz, 2048-byte buffers", capture(*devices, 7, 2048, seconds));
     report("44100 Hz, 734-byte buffers", capture(*devices, 7, 735, seconds));
+    letSoundSystemSettle();
     return 0;
 }

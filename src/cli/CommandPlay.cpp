@@ -13,6 +13,7 @@
 #include "audio/BasicWindows.h"
 #include "audio/ChunkedPlayback.h"
 #include "audio/QtWaveOutDevice.h"
+#include "audio/SoundSystemExit.h"
 #include "audio/WavePlayer.h"
 #include "audio/WaveRecorder.h"
 
@@ -20,6 +21,37 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: sonalys-analyze play FILE.wav [--from SECONDS --to SECONDS] [--update-bytes N]\n";
+
+// Plays samples `first` to `last` of `input`, in one piece for a range and in chunks otherwise, then prints what was
+// played. The sound devices are gone when it returns.
+int playInput(const std::string& path, MonoInput& input, std::int64_t first, std::int64_t last, bool range,
+              long long updateBytes) {
+    const auto count = static_cast<std::int64_t>(input.samples.size());
+    ConsolePrompt prompt(std::cerr);
+    QtWaveOutDevice device;
+    ChunkedPlayback play;  // outlives the player, which may still hand its headers back when it goes
+    WavePlayer player(device, prompt);
+    BasicPlayWindow window(player, play, prompt, input.samples.data(), count);
+    window.onClosed = [] { QCoreApplication::quit(); };
+    if (!player.Open(input.format, &window)) return 2;
+    play.clearCounters();
+    std::int64_t played = 0;
+    if (range) {
+        play.oneShot = true;
+        const auto* bytes = reinterpret_cast<const std::uint8_t*>(input.samples.data() + first);
+        if (!player.PlayOnce(bytes, static_cast<std::uint32_t>((last - first) * 2))) return 2;
+        played = last - first;
+    } else if (!PlayChunked(play, player, input.samples.data(), count, updateBytes / 2, {}, prompt)) {
+        player.Close();
+        return 2;
+    }
+    QCoreApplication::exec();
+    if (!range) played = play.bytePosition / 2;
+    if (prompt.shown() > 0) return 2;
+    std::cout << "file," << path << "\nsample_rate," << input.format.nSamplesPerSec << "\nfirst_value," << first
+              << "\nvalues_played," << played << "\n";
+    return 0;
+}
 
 }  // namespace
 
@@ -51,28 +83,7 @@ int runPlay(CommandArgs words) {
     char name[] = "sonalys-analyze";
     char* argv[] = {name, nullptr};
     QCoreApplication application(argc, argv);
-    ConsolePrompt prompt(std::cerr);
-    QtWaveOutDevice device;
-    ChunkedPlayback play;  // outlives the player, which may still hand its headers back when it goes
-    WavePlayer player(device, prompt);
-    BasicPlayWindow window(player, play, prompt, input->samples.data(), count);
-    window.onClosed = [] { QCoreApplication::quit(); };
-    if (!player.Open(input->format, &window)) return 2;
-    play.clearCounters();
-    std::int64_t played = 0;
-    if (range) {
-        play.oneShot = true;
-        const auto* bytes = reinterpret_cast<const std::uint8_t*>(input->samples.data() + first);
-        if (!player.PlayOnce(bytes, static_cast<std::uint32_t>((last - first) * 2))) return 2;
-        played = last - first;
-    } else if (!PlayChunked(play, player, input->samples.data(), count, updateBytes / 2, {}, prompt)) {
-        player.Close();
-        return 2;
-    }
-    QCoreApplication::exec();
-    if (!range) played = play.bytePosition / 2;
-    if (prompt.shown() > 0) return 2;
-    std::cout << "file," << path << "\nsample_rate," << input->format.nSamplesPerSec << "\nfirst_value," << first
-              << "\nvalues_played," << played << "\n";
-    return 0;
+    const int status = playInput(path, *input, first, last, range, updateBytes);
+    letSoundSystemSettle();
+    return status;
 }

@@ -11,6 +11,7 @@
 #include "ConsolePrompt.h"
 #include "audio/BasicWindows.h"
 #include "audio/QtWaveInDevice.h"
+#include "audio/SoundSystemExit.h"
 #include "audio/WaveRecorder.h"
 
 namespace {
@@ -26,6 +27,31 @@ int formatIndexFor(long long rate) {
     case 44100: return 7;
     default: return -1;
     }
+}
+
+// Records for `seconds`, then prints what was recorded. The sound devices are gone when it returns.
+int recordTake(const std::filesystem::path& output, int formatIndex, int updateBytes, double seconds) {
+    ConsolePrompt prompt(std::cerr);
+    QtWaveInDevice device;
+    // The scratch file lies beside the take; no crash marker outside the program's data root.
+    WaveRecorder recorder(device, prompt, output.parent_path());
+    recorder.SetCrashMarkerEnabled(false);
+    recorder.SetFormat(formatIndex);
+    recorder.SetUpdateRateBytes(updateBytes);
+    recorder.SetOutputPath(output);
+    BasicRecordWindow window(recorder);
+    window.onClosed = [] { QCoreApplication::quit(); };
+    if (!recorder.Start(&window)) return 2;
+    QTimer::singleShot(static_cast<int>(std::lround(seconds * 1000.0)), [&] { recorder.Stop(); });
+    QCoreApplication::exec();
+
+    if (prompt.shown() > 0 || !std::filesystem::exists(output)) return 2;
+    std::error_code ignored;
+    std::filesystem::remove(recorder.scratchPath(), ignored);
+    const WaveFormat& format = recorder.format();
+    std::cout << "file," << output.string() << "\nsample_rate," << format.nSamplesPerSec << "\nvalues,"
+              << recorder.capturedBytes() / 2 << "\nbuffer_bytes," << recorder.bufferBytes() << "\n";
+    return 0;
 }
 
 }  // namespace
@@ -48,25 +74,7 @@ int runRecord(CommandArgs words) {
     char name[] = "sonalys-analyze";
     char* argv[] = {name, nullptr};
     QCoreApplication application(argc, argv);
-    ConsolePrompt prompt(std::cerr);
-    QtWaveInDevice device;
-    // The scratch file lies beside the take; no crash marker outside the program's data root.
-    WaveRecorder recorder(device, prompt, output.parent_path());
-    recorder.SetCrashMarkerEnabled(false);
-    recorder.SetFormat(formatIndex);
-    recorder.SetUpdateRateBytes(static_cast<int>(updateBytes));
-    recorder.SetOutputPath(output);
-    BasicRecordWindow window(recorder);
-    window.onClosed = [] { QCoreApplication::quit(); };
-    if (!recorder.Start(&window)) return 2;
-    QTimer::singleShot(static_cast<int>(std::lround(seconds * 1000.0)), [&] { recorder.Stop(); });
-    QCoreApplication::exec();
-
-    if (prompt.shown() > 0 || !std::filesystem::exists(output)) return 2;
-    std::error_code ignored;
-    std::filesystem::remove(recorder.scratchPath(), ignored);
-    const WaveFormat& format = recorder.format();
-    std::cout << "file," << output.string() << "\nsample_rate," << format.nSamplesPerSec << "\nvalues,"
-              << recorder.capturedBytes() / 2 << "\nbuffer_bytes," << recorder.bufferBytes() << "\n";
-    return 0;
+    const int status = recordTake(output, formatIndex, static_cast<int>(updateBytes), seconds);
+    letSoundSystemSettle();
+    return status;
 }

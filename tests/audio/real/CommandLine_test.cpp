@@ -14,8 +14,9 @@
 namespace {
 
 struct CommandRun {
-    int status;
+    int status;  // -1 when the program did not end by itself
     std::string out;
+    std::string errors;
 };
 
 CommandRun sonalysAnalyze(const QStringList& arguments) {
@@ -23,7 +24,7 @@ CommandRun sonalysAnalyze(const QStringList& arguments) {
     process.start(SONALYS_CLI_PATH, arguments);
     process.waitForFinished(60'000);
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardOutput().toStdString()};
+            process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
 }
 
 class CommandLineAudioTest : public ::testing::Test {
@@ -43,7 +44,7 @@ TEST_F(CommandLineAudioTest, RecordWritesAnUnbrokenTakeOfTheGivenLength) {
     const std::string take = (root / "take.wav").string();
     const CommandRun run = sonalysAnalyze({"record", QString::fromStdString(take), "--seconds", "1.5"});
     feeder.stop();
-    ASSERT_EQ(run.status, 0);
+    ASSERT_EQ(run.status, 0) << run.errors;
     EXPECT_NE(run.out.find("sample_rate,11025\n"), std::string::npos);
 
     const WaveLoadResult loaded = WaveLoad(take);
@@ -71,7 +72,7 @@ TEST_F(CommandLineAudioTest, PlayOfARangeSoundsExactlyThatRange) {
     const CommandRun run = sonalysAnalyze({"play", QString::fromStdString(path), "--from", "0.5", "--to", "1"});
     runEventLoop(300);
     std::vector<std::int16_t> got = heard.stop();
-    ASSERT_EQ(run.status, 0);
+    ASSERT_EQ(run.status, 0) << run.errors;
 
     // 0.5 s is sample 5512.5, rounded to 5513; 1 s is sample 11025, not played.
     std::erase(got, 0);
