@@ -34,7 +34,7 @@ QtWaveInDevice::~QtWaveInDevice() {
         m_source->stop();
     }
     m_source.reset();
-    m_retired.reset();
+    m_retired.clear();
 }
 
 int QtWaveInDevice::open(const WaveFormat& format, WaveInEvents& events) {
@@ -51,7 +51,7 @@ int QtWaveInDevice::open(const WaveFormat& format, WaveInEvents& events) {
         std::max(frame, qtFormat->bytesForDuration(1'000'000 / kFragmentsPerSecond) / frame * frame));
     m_stream = m_source->start();
     if (!m_stream || m_source->error() != QAudio::NoError) {
-        m_source.reset();
+        retireSource();
         return MMSYSERR_NODRIVER;
     }
     watchForFailure();
@@ -123,11 +123,19 @@ int QtWaveInDevice::close() {
     m_started = false;
     m_eventQueue.dropBufferEvents();
     m_eventQueue.post(DeviceEventQueue::Kind::Other, [target = m_events] { target->waveInClosed(); });
+    retireSource();
+    return MMSYSERR_NOERROR;
+}
+
+void QtWaveInDevice::retireSource() {
     m_source->disconnect();
     m_source->stop();
-    m_retired = std::move(m_source);
-    QTimer::singleShot(0, &m_retirement, [this] { m_retired.reset(); });
-    return MMSYSERR_NOERROR;
+    m_stream = nullptr;
+    m_retired.push_back(std::move(m_source));
+    QTimer::singleShot(0, &m_retirement, [this] {
+        std::vector<std::unique_ptr<QAudioSource>> going;
+        going.swap(m_retired);
+    });
 }
 
 void QtWaveInDevice::poll() {

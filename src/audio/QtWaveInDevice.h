@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <deque>
 #include <memory>
+#include <vector>
 
 #include "audio/DeviceEventQueue.h"
 #include "audio/WaveDevice.h"
@@ -33,11 +34,12 @@ private:
     void discardCaptured();
     void handBack(WaveHeader& header);
     void watchForFailure();
+    void retireSource();
 
     DeviceEventQueue m_eventQueue;  // first made, last gone: the stream's last signals may still post
     std::unique_ptr<QAudioSource> m_source;
-    // A closed stream waits here for its deletion, which runs the event loop and so must not happen inside close().
-    std::unique_ptr<QAudioSource> m_retired;
+    // Closed streams wait here for their deletion, which runs the event loop and so must not happen inside a call.
+    std::vector<std::unique_ptr<QAudioSource>> m_retired;
     QObject m_retirement;
     QPointer<QIODevice> m_stream;  // owned by m_source; gone when the sound system drops the stream
     QTimer m_pollTimer;

@@ -37,7 +37,7 @@ QtWaveOutDevice::~QtWaveOutDevice() {
         m_sink->stop();
     }
     m_sink.reset();
-    m_retired.reset();
+    m_retired.clear();
 }
 
 int QtWaveOutDevice::query(const WaveFormat& format) {
@@ -56,7 +56,7 @@ int QtWaveOutDevice::open(const WaveFormat& format, WaveOutEvents& events) {
     const int frame = m_format.bytesPerFrame();
     m_sink->setBufferSize(std::max(frame, m_format.bytesForDuration(kStreamMicroseconds) / frame * frame));
     if (!ensureStream()) {
-        m_sink.reset();
+        retireSink();
         return MMSYSERR_NODRIVER;
     }
     watchForFailure();
@@ -168,10 +168,18 @@ void QtWaveOutDevice::finishClose() {
     m_closing = false;
     m_eventQueue.dropBufferEvents();
     m_eventQueue.post(DeviceEventQueue::Kind::Other, [target = m_events] { target->waveOutClosed(); });
+    retireSink();
+}
+
+void QtWaveOutDevice::retireSink() {
     m_sink->disconnect();
     m_sink->stop();
-    m_retired = std::move(m_sink);
-    QTimer::singleShot(0, &m_retirement, [this] { m_retired.reset(); });
+    m_stream = nullptr;
+    m_retired.push_back(std::move(m_sink));
+    QTimer::singleShot(0, &m_retirement, [this] {
+        std::vector<std::unique_ptr<QAudioSink>> going;
+        going.swap(m_retired);
+    });
 }
 
 void QtWaveOutDevice::feed(bool topUp) {

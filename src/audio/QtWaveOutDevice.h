@@ -10,6 +10,7 @@
 #include <chrono>
 #include <deque>
 #include <memory>
+#include <vector>
 
 #include "audio/DeviceEventQueue.h"
 #include "audio/WaveDevice.h"
@@ -51,12 +52,13 @@ private:
     void handBackDue();
     void handBack(WaveHeader& header);
     void finishClose();
+    void retireSink();
     Clock::duration queuedDuration() const;
 
     DeviceEventQueue m_eventQueue;  // first made, last gone: the stream's last signals may still post
     std::unique_ptr<QAudioSink> m_sink;
-    // A closed stream waits here for its deletion, which runs the event loop and so must not happen inside close().
-    std::unique_ptr<QAudioSink> m_retired;
+    // Closed streams wait here for their deletion, which runs the event loop and so must not happen inside a call.
+    std::vector<std::unique_ptr<QAudioSink>> m_retired;
     QObject m_retirement;
     QPointer<QIODevice> m_stream;  // owned by m_sink; null after a reset until the next write
     QAudioFormat m_format;
