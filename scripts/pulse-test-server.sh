@@ -69,7 +69,11 @@ add_devices() {
 
 start() {
     mkdir -p "$state_dir"
-    rm -f "$state"
+    if [ -f "$state" ]; then
+        # Started under this name and not stopped yet: the note of what to undo is kept, whatever runs now.
+        if server_up && has_test_source; then return 0; fi
+        rm -f "$state"  # left behind by a server that is gone
+    fi
     if ! server_up; then
         start_server
     elif ! has_test_source; then
