@@ -49,6 +49,16 @@ check_format() {
     echo "Formatting: clean"
 }
 
+# The audio tests need a PulseAudio server with their test devices: one is started in user mode when none runs (or
+# the devices are added to the one that runs) before the tests, and stopped by its process id after them.
+start_test_sound_server() {
+    "$here/scripts/pulse-test-server.sh" start setup
+    trap stop_test_sound_server EXIT
+}
+stop_test_sound_server() {
+    "$here/scripts/pulse-test-server.sh" stop setup
+}
+
 run_fuzzers() {  # run_fuzzers FOLDER SECONDS
     local folder="$1" seconds="$2" fuzzer corpus
     for fuzzer in "$folder"/fuzz/fuzz_*; do
@@ -76,6 +86,7 @@ test)
     install_missing
     check_format
     build build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+    start_test_sound_server
     (cd build && ctest --output-on-failure -j "$jobs")
     # The same tests again with the address and undefined-behaviour checkers watching.
     build build-sanitize -DCMAKE_BUILD_TYPE=Debug -DSONALYS_SANITIZE=ON
@@ -83,6 +94,7 @@ test)
         LSAN_OPTIONS="suppressions=$here/scripts/lsan.supp" \
         UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
         ctest --output-on-failure -j "$jobs")
+    stop_test_sound_server
     # The file readers under libFuzzer for a bounded time.
     CC=clang CXX=clang++ build build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DSONALYS_FUZZ=ON \
         -DSONALYS_WITH_QT=OFF -DSONALYS_BUILD_TESTS=OFF

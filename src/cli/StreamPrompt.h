@@ -10,12 +10,18 @@
 class StreamPrompt final : public Prompt {
 public:
     explicit StreamPrompt(std::ostream& out) : m_out(out) {}
-    void showOk(std::string_view text) override { m_out << text << "\n"; }
+    void showOk(std::string_view text) override {
+        ++m_shown;
+        m_out << text << "\n";
+    }
     bool askYesNo(std::string_view text) override {
+        ++m_shown;
         m_out << text << " [answered No]\n";
         return false;
     }
+    int shown() const noexcept { return m_shown; }  // how many messages and questions were shown
 
 private:
     std::ostream& m_out;
+    int m_shown = 0;
 };

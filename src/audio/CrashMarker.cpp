@@ -1,0 +1,31 @@
+#include "audio/CrashMarker.h"
+
+#include <array>
+#include <fstream>
+
+#include "store/ByteOrder.h"
+#include "store/Prompt.h"
+#include "store/ReplacingFile.h"
+
+bool writeCrashMarker(const std::filesystem::path& dataRoot, const CrashMarker& marker) {
+    std::array<std::uint8_t, 8> bytes{};
+    writeLE32(bytes.data(), static_cast<std::uint32_t>(marker.state));
+    writeLE32(bytes.data() + 4, static_cast<std::uint32_t>(marker.updateRateIndex));
+    ReplacingFile file(dataRoot / kCrashMarkerFileName);
+    return file.write(bytes.data(), bytes.size()) && file.commit();
+}
+
+std::optional<CrashMarker> readCrashMarker(const std::filesystem::path& dataRoot) {
+    std::ifstream in(dataRoot / kCrashMarkerFileName, std::ios::binary);
+    std::array<std::uint8_t, 8> bytes{};
+    if (!in.read(reinterpret_cast<char*>(bytes.data()), bytes.size())) return std::nullopt;
+    return CrashMarker{readLE32Signed(bytes.data()), readLE32Signed(bytes.data() + 4)};
+}
+
+int takeCrashMarker(const std::filesystem::path& dataRoot, Prompt& prompt) {
+    const std::optional<CrashMarker> marker = readCrashMarker(dataRoot);
+    if (marker && marker->state == kCaptureRunning) prompt.showOk(kNotEndedProperly);
+    std::error_code ignored;
+    std::filesystem::remove(dataRoot / kCrashMarkerFileName, ignored);
+    return marker ? marker->updateRateIndex : -1;
+}
