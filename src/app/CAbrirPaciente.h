@@ -8,6 +8,7 @@
 #include <QtGlobal>
 
 #include "app/SettingsFiles.h"
+#include "store/LoadedRecording.h"
 
 class CMainFrame;
 class QLineEdit;
@@ -30,7 +31,7 @@ inline constexpr std::string_view kTypeNameToSearch =
     QT_TRANSLATE_NOOP("Sonalys", "Type the Client´s name you want to search!");
 inline constexpr std::string_view kClientNotFound = QT_TRANSLATE_NOOP("Sonalys", "Client not found!");
 inline constexpr std::string_view kSelectAnItem = QT_TRANSLATE_NOOP("Sonalys", "You need to select a Item!");
-inline constexpr std::string_view kErrorReadingFile = QT_TRANSLATE_NOOP("Sonalys", "Error Reading File");
+// "Error Reading File" when the chosen client's row cannot be read: the text of LoadedRecording.h.
 inline constexpr std::string_view kConfirmDeleteClient = QT_TRANSLATE_NOOP(
     "Sonalys", "Attention, All Information about this Client will be deleted!\nAre You sure you want to Continue?");
 inline constexpr std::string_view kClientFolderNotDeleted =

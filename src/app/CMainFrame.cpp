@@ -32,7 +32,8 @@
 
 namespace {
 
-// Command numbers, as the rest of the program and its translations know them.
+// Command numbers, as the rest of the program and its translations know them; those the view's table rules are
+// declared with it.
 constexpr int kIdOpenClient = 32812;
 constexpr int kIdNewClient = 32811;
 constexpr int kIdPersonalInformation = 32817;
@@ -40,8 +41,6 @@ constexpr int kIdDeleteClient = 1040;
 constexpr int kIdExit = 57665;
 constexpr int kIdOpenRecording = 32784;
 constexpr int kIdVolume = 32843;
-constexpr int kIdContents = 32856;
-constexpr int kIdAbout = 57664;
 constexpr int kIdEnglish = 32891;
 constexpr int kIdKorean = 32892;
 
@@ -59,8 +58,16 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     if (marker.lastRecordingBroken()) m_prompt.showOk(kNotEndedProperly);
 
     setWindowIcon(QIcon(":/app/sonalys.svg"));
-    m_view = new CAFView(this);
+    m_view = new CAFView(m_prompt, this);
+    // The view is laid out for the screen the program runs on, as the start-up check fixed it.
+    if (app.FixedScreenWidth > 0 && app.FixedScreenHeight > 0)
+        m_view->setScreenSize(QSize(app.FixedScreenWidth, app.FixedScreenHeight));
     setCentralWidget(m_view);
+    connect(m_view->document(), &CAFDoc::titleChanged, this, &CMainFrame::setDocumentTitle);
+    connect(m_view, &CAFView::commandsChanged, this, &CMainFrame::updateFrameCommands);
+    connect(this, &CMainFrame::recordingChosen, this, &CMainFrame::openChosenRecording);
+    connect(this, &CMainFrame::recordingFileChosen, this, &CMainFrame::openChosenFile);
+    connect(this, &CMainFrame::recordingDeleted, m_view, &CAFView::RecordingDeleted);
     createCommands();
     createToolBar();
     createStatusBar();
@@ -85,6 +92,23 @@ std::filesystem::path CMainFrame::clientFolderPath() const {
     return findFileIgnoringCase(ClientFolder{m_home, CurrentClient.Codigo}.path());
 }
 
+// The view opens the client's recordings and titles its document with the client's name.
+void CMainFrame::tellViewTheClient() {
+    const QString name =
+        CurrentClient.Codigo == kNoClient ? QString() : TableTextToScreen(recordText(CurrentClient.Nome), languageId());
+    m_view->setCurrentClient(ClientFolder{m_home, CurrentClient.Codigo}, name);
+}
+
+void CMainFrame::openChosenRecording(int number, FileKind kind) {
+    m_view->OpenRecording(static_cast<int>(kind), number);
+    UpdateCommands();
+}
+
+void CMainFrame::openChosenFile(const QString& path) {
+    if (m_view->OpenRecordingFile(std::filesystem::path(path.toStdString())) == 1) m_recentFiles.add(path);
+    UpdateCommands();
+}
+
 void CMainFrame::setDocumentTitle(const QString& title) {
     const QString program = QGuiApplication::applicationDisplayName();
     setWindowTitle(title.isEmpty() ? program : title + " - " + program);
@@ -103,6 +127,7 @@ void CMainFrame::applyClientTypeRange() {
 // Back to no client: the client commands go off and the view shows nothing.
 void CMainFrame::noClient() {
     CurrentClient = PacienteRecord{};
+    tellViewTheClient();
     setDocumentTitle(QString());
     m_view->ShowEmpty();
     UpdateCommands();
@@ -127,6 +152,7 @@ void CMainFrame::openCurrentClient() {
         noClient();
         return;
     }
+    tellViewTheClient();
     m_view->ShowEmpty();
     setDocumentTitle(TableTextToScreen(recordText(CurrentClient.Nome), languageId()));
     UpdateCommands();
@@ -167,6 +193,7 @@ void CMainFrame::personalInformation() {
     if (form.exec() != QDialog::Accepted) return;
     CurrentClient = form.record();
     applyClientTypeRange();
+    tellViewTheClient();
     setDocumentTitle(TableTextToScreen(recordText(CurrentClient.Nome), languageId()));
     m_view->update();
 }
@@ -201,6 +228,7 @@ void CMainFrame::ClientWasDeleted() { noClient(); }
 void CMainFrame::ClientWasChanged(const PacienteRecord& client) {
     CurrentClient = client;
     applyClientTypeRange();
+    tellViewTheClient();
     setDocumentTitle(TableTextToScreen(recordText(CurrentClient.Nome), languageId()));
 }
 
@@ -269,6 +297,13 @@ void CMainFrame::createCommands() {
     m_recentSeparator = m_filesMenu->addSeparator();
     connect(m_filesMenu, &QMenu::aboutToShow, this, &CMainFrame::fillRecentFiles);
 
+    // The pages and the zoom are the view's commands, with the view's rules for when they work.
+    QMenu* mode = addMenu(kMenuMode);
+    mode->addAction(m_view->action(kIdShowSpectrogram));
+    mode->addAction(m_view->action(kIdShowSpectrum));
+    mode->addSeparator();
+    mode->addAction(m_view->action(kIdZoom));
+
     QMenu* settings = addMenu(kMenuSettings);
     connect(addCommand(settings, kIdVolume, kCommandVolume, kTipVolume, nullptr), &QAction::triggered, this,
             &CMainFrame::volume);
@@ -299,6 +334,7 @@ void CMainFrame::createToolBar() {
     for (const int id : {kIdOpenClient, kIdNewClient, kIdPersonalInformation, kIdOpenRecording}) {
         m_toolBar->addAction(command(id));
     }
+    m_toolBar->addAction(m_view->action(kIdZoom));
     m_toolBar->addSeparator();
     m_toolBar->addAction(command(kIdContents));
     m_toolBar->addAction(command(kIdAbout));
@@ -325,6 +361,7 @@ void CMainFrame::retranslate() {
         row.action->setToolTip(uiText(row.tip));
     }
     if (m_toolBar != nullptr) m_toolBar->setWindowTitle(uiText(kMenuFiles).remove('&'));
+    m_view->retranslate();
     if (m_ready != nullptr) m_ready->setText(uiText(kReady));
 }
 
@@ -336,6 +373,10 @@ QAction* CMainFrame::command(int id) const {
 }
 
 void CMainFrame::UpdateCommands() {
+    m_view->UpdateCommands();  // which brings the frame's own commands along
+}
+
+void CMainFrame::updateFrameCommands() {
     for (const FrameCommand& row : m_commands) {
         row.action->setEnabled(!row.enabledWhen || row.enabledWhen());
         if (row.checkedWhen) row.action->setChecked(row.checkedWhen());

@@ -30,6 +30,7 @@ struct Prompt;
 // Menus and their commands.
 inline constexpr std::string_view kMenuClient = QT_TRANSLATE_NOOP("Sonalys", "&Client");
 inline constexpr std::string_view kMenuFiles = QT_TRANSLATE_NOOP("Sonalys", "&Files");
+inline constexpr std::string_view kMenuMode = QT_TRANSLATE_NOOP("Sonalys", "&Mode");
 inline constexpr std::string_view kMenuSettings = QT_TRANSLATE_NOOP("Sonalys", "&Settings");
 inline constexpr std::string_view kMenuLanguage = QT_TRANSLATE_NOOP("Sonalys", "&Language");
 inline constexpr std::string_view kMenuHelp = QT_TRANSLATE_NOOP("Sonalys", "&Help");
@@ -163,6 +164,10 @@ private:
     void noClient();
     void setDocumentTitle(const QString& title);
     void applyClientTypeRange();
+    void tellViewTheClient();
+    void updateFrameCommands();
+    void openChosenRecording(int number, FileKind kind);
+    void openChosenFile(const QString& path);
 
     CAFApp& m_app;
     Prompt& m_prompt;

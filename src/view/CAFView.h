@@ -1,36 +1,230 @@
-// The main view of the window: the pictures of the recording on screen, or, with nothing loaded, the empty view
-// with the program's logo and its line of text.
+// The main view of the window: the recording on screen with its spectrogram or power spectrum over the overview
+// strip, the selection and the zoom, the read-outs; or, with nothing loaded, the empty view with the program's
+// logo and its line of text. The display mode changes here and nowhere else.
 #pragma once
 
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <span>
 #include <string_view>
 
+#include <QImage>
 #include <QPixmap>
+#include <QStringList>
 #include <QWidget>
 #include <QtGlobal>
 
+#include "analysis/PowerSpectrum.h"
+#include "analysis/Spectrogram.h"
+#include "panels/PanelDefaults.h"
+#include "panels/SpectrogramPicture.h"
+#include "panels/SpectrumPicture.h"
+#include "store/GraphLabel.h"
+#include "store/LoadedRecording.h"
+#include "store/OpenOtherFile.h"
+#include "store/RecordingFiles.h"
+#include "view/CAFDoc.h"
 #include "view/DisplayMode.h"
+#include "view/Selection.h"
+#include "view/ViewCommands.h"
+#include "view/ViewLayout.h"
+#include "view/WaveStrip.h"
+
+class QAction;
+class QMenu;
+class QTimer;
+struct Prompt;
 
 inline constexpr std::string_view kEmptyViewLine =
     QT_TRANSLATE_NOOP("Sonalys", "Voice and speech analysis for speech therapy");
+// A step of loading that cannot fail today; its message is kept for the day it reads more about the file.
+inline constexpr std::string_view kNoAdditionalInformation = QT_TRANSLATE_NOOP(
+    "Sonalys", "Attention!\nIt was not possible to read additional information about the sound file!");
 
 class CAFView : public QWidget {
     Q_OBJECT
 public:
-    explicit CAFView(QWidget* parent = nullptr);
+    explicit CAFView(Prompt& prompt, QWidget* parent = nullptr);
+    ~CAFView() override;
 
     DisplayMode displayMode() const { return m_displayMode; }
-    // Back to the empty view, repainted at once.
+    // Closes what is open and goes back to the empty view, repainted at once.
     void ShowEmpty();
 
-    // Idle means neither recording nor playing; the commands of the frame follow these.
+    // Idle means neither recording nor playing; the commands follow these.
     bool Recording = false;
     bool Playing = false;
     bool isIdle() const { return !Recording && !Playing; }
+    // The input the recording engine listens to, for the caption beside the graph: microphone or line.
+    bool LineInput = false;
+    // What an edit left for the commands: 2 when something cut or copied waits to be pasted.
+    int EditKind = 0;
+
+    // Lays the view out for a screen of `screen` size; the main window sets it once at start.
+    void setScreenSize(QSize screen);
+    const ViewLayout& layout() const { return m_layout; }
+
+    // The client in work, whose recordings OpenRecording opens and whose name titles the document.
+    void setCurrentClient(const ClientFolder& folder, const QString& name);
+    CAFDoc* document() const { return m_doc; }
+
+    // Opens recording `number` of the current client: kinds 1 and 3 are qv sounds, every other kind a wv sound.
+    // Returns 1, or 0 after "Error Reading File" with the view empty.
+    int OpenRecording(int kind, int number);
+    // Opens a sound file from anywhere: only 11025, 22050 and 44100 Hz and 16 bits are taken, and a stereo file is
+    // folded to one channel as chosen in the dialog "Open File". Returns 1, or 0 with the view empty.
+    int OpenRecordingFile(const std::filesystem::path& path);
+    // Frees the samples and leaves the view empty; called by everything that changes what is on screen.
+    void CloseRecording();
+    // The files of recording `number` of the current client were deleted: when it is the one on screen, the view
+    // goes empty without writing anything beside the deleted sound.
+    void RecordingDeleted(int number);
+    // The commands of the Mode menu.
+    void ShowSpectrogramPage();
+    void ShowSpectrumPage();
+    // Everything drawn again after a change of data or of range: the page, the picture, the strip.
+    void RedrawAll();
+    // Shows the selection alone, or back the whole recording; a single level that toggles.
+    void Zoom();
+
+    // The dynamic range or the colour scheme of the spectrogram settings changed: the picture takes the new palette
+    // at once, with no new analysis.
+    void ApplyPalette();
+
+    // One block of samples captured or played on a live page: on the spectrogram page the newest column, painted
+    // twice at the next two columns (which stop at the graph's right end); on the power-spectrum page the spectrum
+    // of the newest samples, folded into the average; and the block, or on the spectrum page its first half, on the
+    // live strip.
+    void DrawLiveBlock(std::span<const std::int16_t> block);
+
+    // The dialog that asks how to fold a stereo file; tests put a scripted answer in its place.
+    void setStereoChooser(StereoChooser chooser) { m_chooseStereo = std::move(chooser); }
+
+    const LoadedRecording& loadedRecording() const { return m_recording; }
+    SampleRange shownRange() const { return {m_firstShown, m_lastShown}; }
+    bool zoomed() const { return m_zoomed; }
+    bool hasSelection() const { return m_hasSelection; }
+    bool dragging() const { return m_dragging; }
+    int selStartX() const { return m_selStartX; }
+    int selEndX() const { return m_selEndX; }
+    int rate() const;
+
+    // The command of `id`, with the text of the table; commands not built yet stay disabled.
+    QAction* action(int id) const;
+    CommandState commandState() const;
+    // Brings the enabled and checked state of every command up to date.
+    void UpdateCommands();
+    // The texts of the commands and of the page in the language in force.
+    void retranslate();
+    QMenu* contextMenu() const { return m_contextMenu; }
+
+    // The panel settings, at their defaults until the side panels exist.
+    SpectrogramSettings& spectrogramSettings() { return m_spectrogramSettings; }
+    SpectrumSettings& spectrumSettings() { return m_spectrumSettings; }
+    Spectrogram& spectrogramObject() { return m_spectrogramObject; }
+    PowerSpectrum& spectrumObject() { return m_spectrumObject; }
+    const SpectrogramPicture& picture() const { return m_picture; }
+    LiveTrace& liveTrace() { return m_liveTrace; }
+
+    // The page without the overlays, and the finished graph that read-out boxes are erased from; both at the
+    // resolution of the device.
+    const QImage& backBitmap() const { return m_backBitmap; }
+    const QImage& savedGraph() const { return m_savedGraph; }
+    // The read-out box in page pixels, empty when none is up, and its lines.
+    QRect readOutBox() const { return m_readOutBox; }
+    const QStringList& readOutLines() const { return m_readOutLines; }
+    // The spectrogram's pixels on the device: where the picture is painted one column per pixel.
+    QRect pictureDeviceRect() const;
+
+signals:
+    // The state the commands depend on has changed.
+    void commandsChanged();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
+    struct CommandAction {
+        int id;
+        QAction* action;
+        void (CAFView::*run)();  // null: the command is not built yet
+    };
+
+    void createCommands();
+    void stopAudio();
+    int loadFileSteps(DisplayMode remembered);
+    void applyRate(int rate);
+    void resetLivePage();
+    void showFailedOpening();
+    void computePicture();
+    void ensureSpectrum();
+    void sharpenPicture();
+
+    // The page drawn anew into the off-screen images; a redraw of the strip drops any selection.
+    void rebuildPage(bool dropSelection = true);
+    void drawPage(QPainter& painter);
+    void drawEmpty(QPainter& painter);
+    void drawSpectrogramPage(QPainter& painter);
+    void drawSpectrumPage(QPainter& painter);
+    void drawLivePage(QPainter& painter);
+    void drawTextRows(QPainter& painter);
+    SpectrumArea pictureArea() const;
+    QString durationText() const;
+
+    QPoint pagePoint(QPointF widgetPosition) const;
+    QRect widgetRect(const QRect& pageRect) const;
+    void removeSelection();
+    void openContextMenu(QPoint globalPosition);
+    void updateReadOut(QPoint page);
+    void clearReadOut();
+    bool canRun(int id) const;
+
+    Prompt& m_prompt;
+    CAFDoc* m_doc;
+    ViewLayout m_layout;
     DisplayMode m_displayMode = DisplayMode::ModeEmpty;
+    LoadedRecording m_recording;
+    GraphLabelTable m_labels;
+    ClientFolder m_client;
+    QString m_clientName;
+    WaveFormat m_recordFormat;  // the record engine's format: 11025 Hz, 16 bits, mono at start
+
+    // Selection and zoom; the selection is in page pixels of the strip.
+    std::int64_t m_firstShown = 0;
+    std::int64_t m_lastShown = 0;
+    bool m_zoomed = false;
+    int m_selStartX = 0;
+    int m_selStartY = 0;
+    int m_selEndX = 0;
+    bool m_dragging = false;
+    bool m_hasSelection = false;
+    int m_dragLastX = 0;
+
+    // Analysis objects, made once and kept for the life of the view.
+    Spectrogram m_spectrogramObject;
+    PowerSpectrum m_spectrumObject;
+    SpectrogramSettings m_spectrogramSettings;
+    SpectrumSettings m_spectrumSettings;
+    SpectrogramPicture m_picture;
+    bool m_pictureComputed = false;
+    bool m_computing = false;
+    LiveTrace m_liveTrace;
+    int m_liveColumn = 0;  // the next column of the live spectrogram
+
+    QImage m_backBitmap;
+    QImage m_savedGraph;
+    QRect m_readOutBox;
+    QStringList m_readOutLines;
     QPixmap m_logo;
+    StereoChooser m_chooseStereo;
+    std::vector<CommandAction> m_commands;
+    QMenu* m_contextMenu = nullptr;
+    QTimer* m_sharpenTimer = nullptr;
 };

@@ -19,6 +19,7 @@
 #include "app/CAbrirSessao.h"
 #include "app/CPaciente.h"
 #include "controls/ReportList.h"
+#include "store/ByteOrder.h"
 #include "view/CAFView.h"
 
 namespace fs = std::filesystem;
@@ -81,6 +82,7 @@ private slots:
     void aRecordingChosenFromTheListGoesToTheView();
     void otherFilesWorksWithoutAClient();
     void otherFilesOpensAnySoundAndTheDialogLeavesNoTrace();
+    void aSoundOfOtherFilesIsShownFoldedOrRefused();
     void aClientWhoseFolderIsGoneCannotBeOpened();
     void anUnknownTypeKeepsTheRange();
 };
@@ -178,6 +180,68 @@ void CMainFrameTest::aRecordingChosenFromTheListGoesToTheView() {
     QCOMPARE(chosen.count(), 1);
     QCOMPARE(chosen.at(0).at(0).toInt(), 2);
     QCOMPARE(chosen.at(0).at(1).value<FileKind>(), FileKind::WvWithoutDate);
+    // The view shows it, and the window's title names the client and the recording.
+    QCOMPARE(frame.view()->displayMode(), DisplayMode::FileSpectrogramMode);
+    QCOMPARE(frame.view()->loadedRecording().RecordingNumber, 2);
+    QCOMPARE(frame.windowTitle(), QString("Maria Helena Costa  File - 2 - Sonalys"));
+    QVERIFY(frame.view()->action(kIdShowSpectrum)->isEnabled());
+    QVERIFY(program.prompt.shown.empty());
+}
+
+void CMainFrameTest::aSoundOfOtherFilesIsShownFoldedOrRefused() {
+    DemoCopy root;
+    // Two seconds of a stereo sound at 22050 Hz whose channels differ, and a sound at a rate the view refuses.
+    const auto wave = [](std::uint32_t rate, std::uint16_t channels, std::size_t frames) {
+        std::vector<std::uint8_t> bytes;
+        for (const char c : std::string_view("RIFF")) bytes.push_back(static_cast<std::uint8_t>(c));
+        appendLE32(bytes, static_cast<std::uint32_t>(36 + frames * channels * 2));
+        for (const char c : std::string_view("WAVEfmt ")) bytes.push_back(static_cast<std::uint8_t>(c));
+        for (const std::uint32_t v : {16u}) appendLE32(bytes, v);
+        appendLE16(bytes, 1);
+        appendLE16(bytes, channels);
+        appendLE32(bytes, rate);
+        appendLE32(bytes, rate * channels * 2);
+        appendLE16(bytes, static_cast<std::uint16_t>(channels * 2));
+        appendLE16(bytes, 16);
+        for (const char c : std::string_view("data")) bytes.push_back(static_cast<std::uint8_t>(c));
+        appendLE32(bytes, static_cast<std::uint32_t>(frames * channels * 2));
+        for (std::size_t i = 0; i < frames * channels; ++i)
+            appendLE16(bytes, static_cast<std::uint16_t>(i % 2 ? 100 : 300));
+        return std::string(bytes.begin(), bytes.end());
+    };
+    root.write("Other Files/stereo.wav", wave(22050, 2, 44100));
+    root.write("Other Files/phone.wav", wave(8000, 1, 8000));
+    ProgramOnRoot program(root.path());
+    CMainFrame& frame = program.frame();
+    inClientList(QString(), "otherFiles");
+    frame.command(kOpenClient)->trigger();
+    const auto chooseInFileDialog = [&](const char* name, std::function<void()> next) {
+        ModalDriver::whenModal([=, &root](QWidget* modal) {
+            auto* dialog = qobject_cast<QFileDialog*>(modal);
+            dialog->selectFile(QString::fromStdString((root / "Other Files" / name).string()));
+            if (next) next();
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+    };
+    chooseInFileDialog("stereo.wav", [] {
+        ModalDriver::whenModal([](QWidget* modal) {
+            QCOMPARE(modal->windowTitle(), QString("Open File"));
+            modal->findChild<QPushButton*>("open")->click();  // Mix Channels, as checked
+        });
+    });
+    frame.command(kOpenRecording)->trigger();
+    const LoadedRecording& shown = frame.view()->loadedRecording();
+    QCOMPARE(shown.SampleCount(), std::size_t{44100});
+    QCOMPARE(shown.samples()[0], std::int16_t{200});
+    QVERIFY(shown.OpenedStereoAsMono);
+    QVERIFY(frame.windowTitle().startsWith("File - "));
+    QVERIFY(frame.windowTitle().endsWith("stereo.wav - Sonalys"));
+
+    chooseInFileDialog("phone.wav", {});
+    frame.command(kOpenRecording)->trigger();
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{"File rate must be 44100 Hz, 22050 Hz or 11025 Hz!"});
+    QCOMPARE(frame.view()->displayMode(), DisplayMode::ModeEmpty);
+    QCOMPARE(frame.windowTitle(), QString("default - Sonalys"));
 }
 
 void CMainFrameTest::otherFilesWorksWithoutAClient() {

@@ -18,6 +18,7 @@
 #include "app/CSplashWnd.h"
 #include "clients/CPacienteTable.h"
 #include "controls/ReportList.h"
+#include "view/CAFView.h"
 
 namespace fs = std::filesystem;
 
@@ -130,6 +131,14 @@ void ScreenshotsTest::mainWindowAndDialogs() {
     recordings.list()->selectRow(0);
     verifyTextsFit(&recordings);
     QVERIFY(screen(frame, &recordings).save(folder + "/recording-list" + suffix));
+    recordings.close();
+
+    // A recording chosen from the list, on the window's view, laid out for a screen of this size.
+    frame.view()->setScreenSize(size);
+    frame.view()->setCurrentClient(ClientFolder{root.path(), 1}, "Maria Helena Costa");
+    emit frame.recordingChosen(1, FileKind::WvWithoutDate);
+    QCOMPARE(frame.view()->displayMode(), DisplayMode::FileSpectrogramMode);
+    QVERIFY(screen(frame, nullptr).save(folder + "/main-window-recording" + suffix));
 }
 
 QTEST_MAIN(ScreenshotsTest)
