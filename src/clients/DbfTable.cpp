@@ -60,15 +60,15 @@ DbfTable DbfTable::create(std::span<const DbfFieldSpec> fields) {
     table.m_header[0] = kVersionDbase3;
     int offset = 1;
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        const DbfFieldSpec& spec = fields[i];
-        SONALYS_ASSERT(!spec.name.empty() && spec.name.size() < kNameSize && spec.length > 0);
+        const DbfFieldSpec& field = fields[i];
+        SONALYS_ASSERT(!field.name.empty() && field.name.size() < kNameSize && field.length > 0);
         std::uint8_t* descriptor = table.m_header.data() + kHeaderSize + kDescriptorSize * i;
-        std::memcpy(descriptor, spec.name.data(), spec.name.size());
-        descriptor[kTypeOffset] = static_cast<std::uint8_t>(spec.type);
-        descriptor[kLengthOffset] = spec.length;
-        descriptor[kDecimalsOffset] = spec.decimals;
-        table.m_fields.push_back({std::string(spec.name), spec.type, spec.length, spec.decimals, offset});
-        offset += spec.length;
+        std::memcpy(descriptor, field.name.data(), field.name.size());
+        descriptor[kTypeOffset] = static_cast<std::uint8_t>(field.type);
+        descriptor[kLengthOffset] = field.length;
+        descriptor[kDecimalsOffset] = field.decimals;
+        table.m_fields.push_back({std::string(field.name), field.type, field.length, field.decimals, offset});
+        offset += field.length;
     }
     table.m_header[headerLength - 1] = kHeaderEnd;
     SONALYS_ASSERT(offset <= 0xFFFF);

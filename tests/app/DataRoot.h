@@ -21,12 +21,12 @@ struct ClientSpec {
     std::string birth = {};  // eight digits month, day, year, or empty
 };
 
-inline PacienteRecord makeRecord(const ClientSpec& spec) {
+inline PacienteRecord makeRecord(const ClientSpec& client) {
     PacienteRecord record;
-    record.Codigo = spec.code;
-    setRecordText(record.Nome, spec.name);
-    record.Tipo = spec.tipo;
-    setRecordText(record.DataNasc, spec.birth);
+    record.Codigo = client.code;
+    setRecordText(record.Nome, client.name);
+    record.Tipo = client.tipo;
+    setRecordText(record.DataNasc, client.birth);
     return record;
 }
 

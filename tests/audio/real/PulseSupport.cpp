@@ -152,12 +152,12 @@ std::vector<std::int16_t> MonitorRecording::stop() {
 
 PrivatePulseServer::PrivatePulseServer(std::filesystem::path folder) : m_fifo(folder / "capture.fifo") {
     const std::string socket = (folder / "native").string();
-    const std::string spec = "format=s16le rate=11025 channels=1";
+    const std::string streamFormat = "format=s16le rate=11025 channels=1";
     std::ofstream config(folder / "server.pa");
     config << "load-module module-native-protocol-unix socket=" << socket << " auth-anonymous=1\n"
-           << "load-module module-null-sink sink_name=private_playback " << spec << "\n"
-           << "load-module module-pipe-source source_name=private_capture file=" << m_fifo.string() << " " << spec
-           << "\n"
+           << "load-module module-null-sink sink_name=private_playback " << streamFormat << "\n"
+           << "load-module module-pipe-source source_name=private_capture file=" << m_fifo.string() << " "
+           << streamFormat << "\n"
            << "set-default-sink private_playback\nset-default-source private_capture\n";
     config.close();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
