@@ -41,6 +41,14 @@ void PowerSpectrum::resetAverage() {
     m_valid = false;
 }
 
+bool PowerSpectrum::restore(const Result& saved) noexcept {
+    if (saved.fftSize != m_fftSize || saved.useWindow != m_useWindow) return false;
+    m_current = saved.current;
+    m_average = saved.average;
+    m_nAveraged = saved.nAveraged;
+    return true;
+}
+
 void PowerSpectrum::computeSpectrum(std::span<const std::int16_t> samples) {
     if (samples.data() == nullptr) return;
     const int size = m_fftSize;

@@ -28,6 +28,19 @@ public:
     // Empties the average and clears the valid flag.
     void resetAverage();
 
+    // What a computation leaves behind, with the settings it was made under, so that a stretch shown before can be
+    // put back without running its frames again.
+    struct Result {
+        std::array<float, kMaxSpectrumBins> current{};
+        std::array<float, kMaxSpectrumBins> average{};
+        int nAveraged = 0;
+        int fftSize = 0;
+        bool useWindow = true;
+    };
+    Result result() const { return {m_current, m_average, m_nAveraged, m_fftSize, m_useWindow}; }
+    // Puts `saved` back and returns true when it was made under the present FFT size and window; false otherwise.
+    bool restore(const Result& saved) noexcept;
+
     int fftSize() const noexcept { return m_fftSize; }
     bool useWindow() const noexcept { return m_useWindow; }
     bool valid() const noexcept { return m_valid; }

@@ -203,6 +203,7 @@ void CAFView::CloseRecording() {
     m_dragging = false;
     m_pictureComputed = false;
     m_spectrumObject.setValid(false);
+    m_wholeSpectrum.reset();
     clearReadOut();
     UpdateCommands();
 }
@@ -287,6 +288,7 @@ int CAFView::loadFileSteps(DisplayMode remembered) {
     applyRate(rate());
     m_pictureComputed = false;
     m_spectrumObject.setValid(false);
+    m_wholeSpectrum.reset();
     RedrawAll();
     return 1;
 }
@@ -402,7 +404,12 @@ void CAFView::ensureSpectrum() {
     const std::span<const std::int16_t> samples = std::as_const(m_recording).samples();
     const auto first = static_cast<std::size_t>(std::clamp<std::int64_t>(m_firstShown, 0, samples.size()));
     const auto last = static_cast<std::size_t>(std::clamp<std::int64_t>(m_lastShown, first, samples.size()));
-    m_spectrumObject.computeSpectrum(samples.subspan(first, last - first));
+    // The spectrum of the whole recording is kept: leaving a zoom goes back to it without running its frames again.
+    const bool whole = first == 0 && last == samples.size();
+    if (!(whole && m_wholeSpectrum && m_spectrumObject.restore(*m_wholeSpectrum))) {
+        m_spectrumObject.computeSpectrum(samples.subspan(first, last - first));
+        if (whole) m_wholeSpectrum = m_spectrumObject.result();
+    }
     m_spectrumObject.setValid(true);
 }
 

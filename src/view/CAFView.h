@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -210,6 +211,7 @@ private:
     // Analysis objects, made once and kept for the life of the view.
     Spectrogram m_spectrogramObject;
     PowerSpectrum m_spectrumObject;
+    std::optional<PowerSpectrum::Result> m_wholeSpectrum;  // of the samples now loaded, under its own settings
     SpectrogramSettings m_spectrogramSettings;
     SpectrumSettings m_spectrumSettings;
     SpectrogramPicture m_picture;

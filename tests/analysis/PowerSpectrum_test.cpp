@@ -88,3 +88,23 @@ TEST(PowerSpectrum, SampleRateKeepsTheRatio) {
     p.setSampleRate(22050);
     EXPECT_NEAR(p.zoom(), 5512.5 / 2756.0, 1e-5);
 }
+
+TEST(PowerSpectrum, ASavedResultComesBackOnlyUnderTheSettingsItWasMadeWith) {
+    const auto tone = sine(1000.0, 22050, 22050, 8000.0);
+    PowerSpectrum spectrum;
+    spectrum.computeSpectrum(tone);
+    const PowerSpectrum::Result whole = spectrum.result();
+    const std::vector<float> wholeAverage(spectrum.average().begin(), spectrum.average().end());
+
+    spectrum.resetAverage();
+    spectrum.computeSpectrum(std::span(tone).first(2000));
+    ASSERT_TRUE(spectrum.restore(whole));
+    EXPECT_TRUE(std::equal(wholeAverage.begin(), wholeAverage.end(), spectrum.average().begin()));
+    EXPECT_EQ(spectrum.nAveraged(), 1);
+
+    spectrum.setFftSize(1024);
+    EXPECT_FALSE(spectrum.restore(whole));
+    spectrum.setFftSize(512);
+    spectrum.setUseWindow(false);
+    EXPECT_FALSE(spectrum.restore(whole));
+}
