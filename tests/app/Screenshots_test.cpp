@@ -24,10 +24,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct DemoCopy : TempDir {
-    DemoCopy() { fs::copy(fs::path(SONALYS_SOURCE_DIR) / "demo", path(), fs::copy_options::recursive); }
-};
-
 QString pictureFolder() {
     const QString folder = QStringLiteral(SONALYS_SCREENSHOT_DIR);
     QDir().mkpath(folder);
