@@ -17,6 +17,7 @@ Q_DECLARE_METATYPE(LanguageId)
 namespace {
 
 struct Form {
+    DataRoot own;  // the data root, unless the test gives one
     DataRoot& root;
     FakePrompt prompt;
     CPacienteTable table{root.path(), prompt};
@@ -30,6 +31,8 @@ struct Form {
         dialog = std::make_unique<CPaciente>(mode, record, table, current, root.path(), language, prompt);
         dialog->show();
     }
+    explicit Form(CPaciente::Mode mode, const PacienteRecord& record, LanguageId language = LanguageId::English)
+        : Form(own, mode, record, language) {}
     QLineEdit* box(const char* name) const { return dialog->findChild<QLineEdit*>(name); }
     void check(const char* type) const { dialog->findChild<QRadioButton*>(type)->setChecked(true); }
     // Types into whichever box has the focus, one key at a time, as a person does.
@@ -88,8 +91,7 @@ void CPacienteTest::birthDateIsTypedInTheLanguagesOrder() {
     QFETCH(QString, firstBox);
     QFETCH(QStringList, keys);
     QFETCH(QStringList, focusAfter);
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, makeRecord({1, ""}), language);
+    Form form(CPaciente::InsertMode, makeRecord({1, ""}), language);
     form.typeInto("name", "Ana Souza");
     form.check("woman");
     form.box(firstBox.toLatin1().constData())->setFocus();
@@ -103,12 +105,11 @@ void CPacienteTest::birthDateIsTypedInTheLanguagesOrder() {
     QCOMPARE(form.dialog->result(), int(QDialog::Accepted));
     // Whatever the order of entry, the table keeps month, day, year.
     QCOMPARE(std::string(recordText(form.dialog->record().DataNasc)), std::string("03141975"));
-    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf").at(0).datanasc), std::string("03141975"));
+    QCOMPARE(trimmed(readDbfRows(form.root / "pacb.dbf").at(0).datanasc), std::string("03141975"));
 }
 
 void CPacienteTest::dateBoxesTakeOnlyDigitsInRange() {
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, makeRecord({1, ""}));
+    Form form(CPaciente::InsertMode, makeRecord({1, ""}));
     form.typeInto("day", "00");
     QCOMPARE(form.prompt.last(), std::string("Invalid Day !"));
     QCOMPARE(form.box("day")->text(), QString());
@@ -146,8 +147,7 @@ void CPacienteTest::dateBoxesTakeOnlyDigitsInRange() {
 }
 
 void CPacienteTest::okChecksNameTypeAndDateInOrder() {
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, makeRecord({1, ""}));
+    Form form(CPaciente::InsertMode, makeRecord({1, ""}));
     form.typeInto("name", "A");
     form.ok();
     QCOMPARE(form.prompt.last(), std::string("You need to type the client´s name!"));
@@ -161,7 +161,7 @@ void CPacienteTest::okChecksNameTypeAndDateInOrder() {
     QCOMPARE(form.prompt.last(), std::string("Invalid Year (it must have 4 digits)\nSample.: 1974"));
     QCOMPARE(form.dialog->focusWidget()->objectName(), QString("year"));
     QVERIFY(form.dialog->isVisible());
-    QVERIFY(readDbfRows(root / "pacb.dbf").empty());
+    QVERIFY(readDbfRows(form.root / "pacb.dbf").empty());
     form.type("2015");
     form.ok();
     QCOMPARE(form.prompt.shown.size(), std::size_t(3));
@@ -179,8 +179,7 @@ void CPacienteTest::dateIsStoredMonthDayYearOrEmpty() {
     // 31 February passes: days are not checked against the month. A day alone, or no date, stores nothing.
     for (const Case& c : {Case{"31", "02", "2000", "02312000"}, Case{"7", "3", "1950", "03071950"},
                           Case{"15", "", "", ""}, Case{"", "", "", ""}, Case{"", "", "1980", ""}}) {
-        DataRoot root;
-        Form form(root, CPaciente::InsertMode, makeRecord({1, ""}));
+        Form form(CPaciente::InsertMode, makeRecord({1, ""}));
         form.typeInto("name", "Bruno");
         form.check("man");
         form.typeInto("day", c.day);
@@ -264,8 +263,7 @@ void CPacienteTest::editOfAClientGoneFromTheTableChangesNothing() {
 }
 
 void CPacienteTest::textsAreLimitedToTheirFieldsInTheTablesCodePage() {
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, makeRecord({1, ""}));
+    Form form(CPaciente::InsertMode, makeRecord({1, ""}));
     form.typeInto("name", QString(70, 'x'));
     QCOMPARE(form.box("name")->text().size(), 59);
     form.typeInto("state", "ABCD");
@@ -278,7 +276,7 @@ void CPacienteTest::textsAreLimitedToTheirFieldsInTheTablesCodePage() {
     QCOMPARE(form.box("address")->text(), QString());
 
     // In Korean a Hangul syllable takes two of the field's bytes.
-    Form korean(root, CPaciente::InsertMode, makeRecord({1, ""}), LanguageId::Korean);
+    Form korean(form.root, CPaciente::InsertMode, makeRecord({1, ""}), LanguageId::Korean);
     korean.typeInto("state", QString::fromUtf8("서울시"));
     QCOMPARE(korean.box("state")->text(), QString::fromUtf8("서"));
 }
