@@ -71,16 +71,15 @@ class CMainFrameTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-    void clientCommandsNeedAClient();
+    void clientCommandsNeedAClientWithAFolder();
     void openCreateEditAndDeleteAClientOnTheDemoRoot();
     void aRecordingChosenFromTheListGoesToTheView();
     void otherFilesWorksWithoutAClient();
     void otherFilesOpensAnySoundAndTheDialogLeavesNoTrace();
-    void aClientWhoseFolderIsGoneCannotBeOpened();
     void anUnknownTypeKeepsTheRange();
 };
 
-void CMainFrameTest::clientCommandsNeedAClient() {
+void CMainFrameTest::clientCommandsNeedAClientWithAFolder() {
     DemoCopy root;
     ProgramOnRoot program(root.path());
     CMainFrame& frame = program.frame();
@@ -96,6 +95,15 @@ void CMainFrameTest::clientCommandsNeedAClient() {
     frame.view()->Playing = false;
     frame.view()->Recording = true;
     QVERIFY(!enabled(frame, kDeleteClient));
+    frame.view()->Recording = false;
+    frame.CurrentClient = makeRecord({-1, ""});
+    // A client whose folder is gone cannot be opened.
+    fs::remove_all(root / "pac002");
+    inClientList("Joao Pedro Almeida", "open");
+    frame.command(kOpenClient)->trigger();
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{"Error Acessing Client´s folder !"});
+    QCOMPARE(frame.CurrentClient.Codigo, -1);
+    QVERIFY(!enabled(frame, kOpenRecording));
 }
 
 void CMainFrameTest::openCreateEditAndDeleteAClientOnTheDemoRoot() {
@@ -231,18 +239,6 @@ void CMainFrameTest::otherFilesOpensAnySoundAndTheDialogLeavesNoTrace() {
     QVERIFY(frame.windowTitle().endsWith("voice.wav - Sonalys"));
     QVERIFY(program.prompt.shown.empty());
     QVERIFY(!QFile::exists(qtSettings));
-}
-
-void CMainFrameTest::aClientWhoseFolderIsGoneCannotBeOpened() {
-    DemoCopy root;
-    fs::remove_all(root / "pac002");
-    ProgramOnRoot program(root.path());
-    CMainFrame& frame = program.frame();
-    inClientList("Joao Pedro Almeida", "open");
-    frame.command(kOpenClient)->trigger();
-    QCOMPARE(program.prompt.shown, std::vector<std::string>{"Error Acessing Client´s folder !"});
-    QCOMPARE(frame.CurrentClient.Codigo, -1);
-    QVERIFY(!enabled(frame, kOpenRecording));
 }
 
 void CMainFrameTest::anUnknownTypeKeepsTheRange() {
