@@ -14,6 +14,7 @@
 
 #include "FakePrompt.h"
 #include "ModalDriver.h"
+#include "ProgramOnRoot.h"
 #include "TempDir.h"
 #include "app/CAFApp.h"
 #include "app/CAboutDlg.h"
@@ -34,14 +35,6 @@ std::string le32(std::uint32_t v) {
     return {static_cast<char>(v), static_cast<char>(v >> 8), static_cast<char>(v >> 16), static_cast<char>(v >> 24)};
 }
 
-// Starts the program on `home` with no splash, no real display program, and the prompt given.
-std::unique_ptr<CAFApp> startProgram(const TempDir& home, FakePrompt& prompt) {
-    auto app = std::make_unique<CAFApp>(home.path(), prompt);
-    app->startProgram = [](const QString&, const QStringList&) { return false; };
-    if (!app->InitInstance({"sonalys", "-Embedding"})) return nullptr;
-    return app;
-}
-
 }  // namespace
 
 class CAFAppTest : public QObject {
@@ -51,16 +44,12 @@ private slots:
     void startsInEnglishWhateverLangDatSays();
     void recentFilesKeepTheLastFourNewestFirst();
     void brokenRecordingWarnsOnceAndKeepsTheUpdateRate();
-    void screenTooPoorShowsTheAttentionBoxAndStops();
-    void screenBetweenTheLayoutsAsksForAnotherSize();
+    void theScreenIsCheckedAndAPoorOneStopsTheStart();
     void fixedSizeLargerThanTheScreenIsRefusedButStartGoesOn();
-    void splashClosesOnTheFirstKeyAndSwallowsIt();
-    void splashClosesByItselfAfterTwoSeconds();
+    void splashClosesOnTheFirstKeyOrClickOrAfterTwoSeconds();
     void languageCommandsWriteLangDatAndFollowTheRecording();
-    void exitAsksFirst();
+    void exitAsksFirstAndTheStatusBarShowsBusyTexts();
     void aboutBoxShowsVersionMemoryAndSystem();
-    void volumeWithoutADesktopMixerSaysSo();
-    void busyTextIsShownAndCleared();
     void messageBoxIsTitledWithTheProgramsName();
     void contentsOpensTheUserGuideWhoseLinksAllResolve();
 };
@@ -69,15 +58,13 @@ void CAFAppTest::startsInEnglishWhateverLangDatSays() {
     for (const std::string& contents : {le32(2), std::string()}) {
         TempDir home;
         if (!contents.empty()) home.write("lang.dat", contents);
-        FakePrompt prompt;
-        auto app = startProgram(home, prompt);
-        QVERIFY(app);
-        QCOMPARE(app->languageId(), LanguageId::English);
-        QVERIFY(app->mainFrame()->command(32891)->isChecked());
-        QVERIFY(!app->mainFrame()->command(32892)->isChecked());
+        ProgramOnRoot program(home.path());
+        QCOMPARE(program.app->languageId(), LanguageId::English);
+        QVERIFY(program.frame().command(32891)->isChecked());
+        QVERIFY(!program.frame().command(32892)->isChecked());
         // Reading does not write: the file stays as it was, or absent.
         QCOMPARE(home.read("lang.dat"), contents);
-        QVERIFY(prompt.shown.empty());
+        QVERIFY(program.prompt.shown.empty());
         // A first start in an empty data root makes the client table without a word.
         QVERIFY(std::filesystem::exists(home / "pacb.dbf"));
     }
@@ -95,9 +82,8 @@ void CAFAppTest::recentFilesKeepTheLastFourNewestFirst() {
 
     // The Files menu lists them; choosing one hands its path on.
     TempDir home;
-    FakePrompt prompt;
-    auto app = startProgram(home, prompt);
-    auto* files = qobject_cast<QMenu*>(app->mainFrame()->command(32784)->associatedObjects().value(0));
+    ProgramOnRoot program(home.path());
+    auto* files = qobject_cast<QMenu*>(program.frame().command(32784)->associatedObjects().value(0));
     QVERIFY(files != nullptr);
     emit files->aboutToShow();
     QAction* first = nullptr;
@@ -106,7 +92,7 @@ void CAFAppTest::recentFilesKeepTheLastFourNewestFirst() {
     }
     QVERIFY(first != nullptr);
     QCOMPARE(first->text(), QString("&1 /a/3.wav"));
-    QSignalSpy chosen(app->mainFrame(), &CMainFrame::recordingFileChosen);
+    QSignalSpy chosen(&program.frame(), &CMainFrame::recordingFileChosen);
     first->trigger();
     QCOMPARE(chosen.count(), 1);
     QCOMPARE(chosen.at(0).at(0).toString(), QString("/a/3.wav"));
@@ -116,23 +102,19 @@ void CAFAppTest::recentFilesKeepTheLastFourNewestFirst() {
 void CAFAppTest::brokenRecordingWarnsOnceAndKeepsTheUpdateRate() {
     TempDir home;
     home.write("sy1.log", le32(0) + le32(2));
-    FakePrompt prompt;
-    auto app = startProgram(home, prompt);
-    QVERIFY(app);
-    QCOMPARE(prompt.shown, std::vector<std::string>{std::string(kNotEndedProperly)});
-    QCOMPARE(app->mainFrame()->RememberedUpdateRateIndex, 2);
+    auto program = std::make_unique<ProgramOnRoot>(home.path());
+    QCOMPARE(program->prompt.shown, std::vector<std::string>{std::string(kNotEndedProperly)});
+    QCOMPARE(program->frame().RememberedUpdateRateIndex, 2);
     QVERIFY(!std::filesystem::exists(home / "sy1.log"));
-    app.reset();
-
+    program.reset();
     home.write("sy1.log", le32(1) + le32(3));  // ended properly: silent
-    FakePrompt quiet;
-    app = startProgram(home, quiet);
-    QVERIFY(quiet.shown.empty());
-    QCOMPARE(app->mainFrame()->RememberedUpdateRateIndex, 3);
+    program = std::make_unique<ProgramOnRoot>(home.path());
+    QVERIFY(program->prompt.shown.empty());
+    QCOMPARE(program->frame().RememberedUpdateRateIndex, 3);
     QVERIFY(!std::filesystem::exists(home / "sy1.log"));
 }
 
-void CAFAppTest::screenTooPoorShowsTheAttentionBoxAndStops() {
+void CAFAppTest::theScreenIsCheckedAndAPoorOneStopsTheStart() {
     TempDir home;
     FakePrompt prompt;
     CAFApp app(home.path(), prompt);
@@ -161,13 +143,9 @@ void CAFAppTest::screenTooPoorShowsTheAttentionBoxAndStops() {
     ModalDriver::whenModal([](QWidget* modal) { qobject_cast<QDialog*>(modal)->accept(); });
     QVERIFY(!app.CheckScreen(ScreenInfo{32, 640, 480}));
     if (started.isEmpty()) QCOMPARE(prompt.shown, std::vector<std::string>{std::string(kNoDisplaySettingsProgram)});
-}
 
-void CAFAppTest::screenBetweenTheLayoutsAsksForAnotherSize() {
-    TempDir home;
-    FakePrompt prompt;
-    CAFApp app(home.path(), prompt);
-    app.startProgram = [](const QString&, const QStringList&) { return false; };
+    // A size between the two layouts asks for another; a size either layout serves is kept.
+    prompt.shown.clear();
     QVERIFY(!app.CheckScreen(ScreenInfo{32, 1000, 700}));
     QCOMPARE(prompt.shown,
              (std::vector<std::string>{"The screen resolution is higher than the options available!\nPlease select the "
@@ -184,16 +162,14 @@ void CAFAppTest::screenBetweenTheLayoutsAsksForAnotherSize() {
 void CAFAppTest::fixedSizeLargerThanTheScreenIsRefusedButStartGoesOn() {
     TempDir home;
     home.write("conf.dat", le32(3));  // 1280 x 1024, larger than the test screen
-    FakePrompt prompt;
-    auto app = startProgram(home, prompt);
-    QVERIFY(app);
-    QCOMPARE(app->FixedScreenWidth, 1280);
-    QCOMPARE(app->FixedScreenHeight, 1024);
-    QCOMPARE(prompt.shown, std::vector<std::string>{"It´s not possible to set the resolution!"});
-    QVERIFY(app->mainFrame()->isVisible());
+    ProgramOnRoot program(home.path());
+    QCOMPARE(program.app->FixedScreenWidth, 1280);
+    QCOMPARE(program.app->FixedScreenHeight, 1024);
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{"It´s not possible to set the resolution!"});
+    QVERIFY(program.frame().isVisible());
 }
 
-void CAFAppTest::splashClosesOnTheFirstKeyAndSwallowsIt() {
+void CAFAppTest::splashClosesOnTheFirstKeyOrClickOrAfterTwoSeconds() {
     QWidget window;
     auto* edit = new QLineEdit(&window);
     window.resize(800, 600);
@@ -206,17 +182,10 @@ void CAFAppTest::splashClosesOnTheFirstKeyAndSwallowsIt() {
     QCOMPARE(edit->text(), QString());  // the key that closed the splash typed nothing
     QTest::keyClick(edit, Qt::Key_B);
     QCOMPARE(edit->text(), QString("b"));
-
     splash = CSplashWnd::ShowSplashScreen(&window, LanguageId::English);
     QTest::mouseClick(&window, Qt::LeftButton);
     QTRY_VERIFY(splash.isNull());
-}
-
-void CAFAppTest::splashClosesByItselfAfterTwoSeconds() {
-    QWidget window;
-    window.resize(800, 600);
-    window.show();
-    QPointer<CSplashWnd> splash = CSplashWnd::ShowSplashScreen(&window, LanguageId::English);
+    splash = CSplashWnd::ShowSplashScreen(&window, LanguageId::English);
     QTest::qWait(1500);
     QVERIFY(!splash.isNull());
     QTRY_VERIFY_WITH_TIMEOUT(splash.isNull(), 2000);
@@ -224,15 +193,14 @@ void CAFAppTest::splashClosesByItselfAfterTwoSeconds() {
 
 void CAFAppTest::languageCommandsWriteLangDatAndFollowTheRecording() {
     TempDir home;
-    FakePrompt prompt;
-    auto app = startProgram(home, prompt);
-    CMainFrame* frame = app->mainFrame();
+    ProgramOnRoot program(home.path());
+    CMainFrame* frame = &program.frame();
     QAction* english = frame->command(32891);
     QAction* korean = frame->command(32892);
     english->trigger();  // already English: nothing is written
     QVERIFY(!std::filesystem::exists(home / "lang.dat"));
     korean->trigger();
-    QCOMPARE(app->languageId(), LanguageId::Korean);
+    QCOMPARE(program.app->languageId(), LanguageId::Korean);
     // The translations ship inside the program, where the language commands look for them.
     for (const char* language : {"es", "ko", "pt"})
         QVERIFY(QFile::exists(QString(":/i18n/sonalys_%1.qm").arg(language)));
@@ -251,18 +219,26 @@ void CAFAppTest::languageCommandsWriteLangDatAndFollowTheRecording() {
     QVERIFY(korean->isEnabled());
 }
 
-void CAFAppTest::exitAsksFirst() {
+void CAFAppTest::exitAsksFirstAndTheStatusBarShowsBusyTexts() {
     TempDir home;
-    FakePrompt prompt;
-    auto app = startProgram(home, prompt);
-    CMainFrame* frame = app->mainFrame();
-    prompt.answers = {false};
-    frame->close();
-    QVERIFY(frame->isVisible());
-    QCOMPARE(prompt.last(), std::string("Are you sure you want to exit?"));
-    prompt.answers = {true};
-    frame->close();
-    QVERIFY(!frame->isVisible());
+    ProgramOnRoot program(home.path());
+    CMainFrame& frame = program.frame();
+    frame.ShowBusyText("Calculating F0...");
+    QCOMPARE(frame.busyText(), QString("Calculating F0..."));
+    frame.ShowBusyText(" ");
+    QCOMPARE(frame.busyText(), QString());
+    frame.ShowBusyText("ab");
+    QCOMPARE(frame.busyText(), QString("ab"));
+    // Without a desktop mixer the volume command says so.
+    frame.command(32843)->trigger();
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{"Volume Control can´t be  can´t be Inicialized!"});
+    program.prompt.answers = {false};
+    frame.close();
+    QVERIFY(frame.isVisible());
+    QCOMPARE(program.prompt.last(), std::string("Are you sure you want to exit?"));
+    program.prompt.answers = {true};
+    frame.close();
+    QVERIFY(!frame.isVisible());
 }
 
 void CAFAppTest::aboutBoxShowsVersionMemoryAndSystem() {
@@ -280,27 +256,6 @@ void CAFAppTest::aboutBoxShowsVersionMemoryAndSystem() {
     CAboutDlg box(true);
     QCOMPARE(box.findChild<QLabel*>("memory")->text(), MemoryText(PhysicalMemoryMB()));
     QCOMPARE(box.findChild<QLabel*>("system")->text(), QSysInfo::prettyProductName());
-}
-
-void CAFAppTest::volumeWithoutADesktopMixerSaysSo() {
-    TempDir home;
-    FakePrompt prompt;
-    auto app = startProgram(home, prompt);
-    app->mainFrame()->command(32843)->trigger();
-    QCOMPARE(prompt.shown, std::vector<std::string>{"Volume Control can´t be  can´t be Inicialized!"});
-}
-
-void CAFAppTest::busyTextIsShownAndCleared() {
-    TempDir home;
-    FakePrompt prompt;
-    auto app = startProgram(home, prompt);
-    CMainFrame* frame = app->mainFrame();
-    frame->ShowBusyText("Calculating F0...");
-    QCOMPARE(frame->busyText(), QString("Calculating F0..."));
-    frame->ShowBusyText(" ");
-    QCOMPARE(frame->busyText(), QString());
-    frame->ShowBusyText("ab");
-    QCOMPARE(frame->busyText(), QString("ab"));
 }
 
 void CAFAppTest::messageBoxIsTitledWithTheProgramsName() {
@@ -323,10 +278,9 @@ void CAFAppTest::messageBoxIsTitledWithTheProgramsName() {
 
 void CAFAppTest::contentsOpensTheUserGuideWhoseLinksAllResolve() {
     TempDir home;
-    FakePrompt prompt;
-    auto app = startProgram(home, prompt);
-    app->mainFrame()->command(32856)->trigger();
-    auto* help = app->mainFrame()->findChild<HelpBrowser*>();
+    ProgramOnRoot program(home.path());
+    program.frame().command(32856)->trigger();
+    auto* help = program.frame().findChild<HelpBrowser*>();
     QVERIFY(help != nullptr && help->isVisible());
     QVERIFY(help->browser()->toPlainText().contains("Sonalys user guide"));
     // Every page shipped, every link and picture in it found inside the program.

@@ -27,6 +27,15 @@ QStringList column(const ReportList* list, int column) {
 
 QPushButton* button(const QDialog& dialog, const char* name) { return dialog.findChild<QPushButton*>(name); }
 
+// The client list of the program started on a data root holding `clients`.
+struct ListOnRoot {
+    DataRoot root;
+    ProgramOnRoot program;
+    CAbrirPaciente dialog;
+    explicit ListOnRoot(const std::vector<ClientSpec>& clients, LanguageId language = LanguageId::English)
+        : root(clients), program(root.path(), language), dialog(program.frame()) {}
+};
+
 }  // namespace
 
 class CAbrirPacienteTest : public QObject {
@@ -37,7 +46,6 @@ private slots:
     void searchFindsTheFirstNameBeginningWithTheText();
     void clientCommandsFollowTheChoice();
     void openMakesTheChosenClientCurrent();
-    void newClientAndOtherFilesEndTheList();
     void personalInformationRewritesTheRow();
     void deleteRemovesTheFilesTheFolderAndOnlyThatRow();
     void deletingTheOpenClientLeavesNoClient();
@@ -46,9 +54,8 @@ private slots:
 };
 
 void CAbrirPacienteTest::rowsShowCodeAndNameInTableOrder() {
-    DataRoot root({{12, "Zeca"}, {3, "Ana"}, {1000, "Bruno"}});
-    ProgramOnRoot program(root.path());
-    CAbrirPaciente dialog(program.frame());
+    ListOnRoot on({{12, "Zeca"}, {3, "Ana"}, {1000, "Bruno"}});
+    auto& [root, program, dialog] = on;
     QCOMPARE(dialog.windowTitle(), QString("Select a Client"));
     QCOMPARE(dialog.list()->model()->headerData(0, Qt::Horizontal).toString(), QString("Code"));
     QCOMPARE(dialog.list()->model()->headerData(1, Qt::Horizontal).toString(), QString("Name"));
@@ -60,18 +67,15 @@ void CAbrirPacienteTest::nameColumnNarrowsFromElevenClients() {
     for (const auto& [count, language, width] :
          {std::tuple{10, LanguageId::English, 170}, std::tuple{11, LanguageId::English, 153},
           std::tuple{0, LanguageId::Korean, 211}, std::tuple{11, LanguageId::Korean, 153}}) {
-        DataRoot root(numberedClients(count));
-        ProgramOnRoot program(root.path(), language);
-        CAbrirPaciente dialog(program.frame());
-        QCOMPARE(dialog.list()->header()->sectionSize(0), 60);
-        QCOMPARE(dialog.list()->header()->sectionSize(1), width);
+        ListOnRoot on(numberedClients(count), language);
+        QCOMPARE(on.dialog.list()->header()->sectionSize(0), 60);
+        QCOMPARE(on.dialog.list()->header()->sectionSize(1), width);
     }
 }
 
 void CAbrirPacienteTest::searchFindsTheFirstNameBeginningWithTheText() {
-    DataRoot root({{1, "Joana"}, {2, "Mariana"}, {3, "ANTONIO"}, {4, "Ana"}});
-    ProgramOnRoot program(root.path());
-    CAbrirPaciente dialog(program.frame());
+    ListOnRoot on({{1, "Joana"}, {2, "Mariana"}, {3, "ANTONIO"}, {4, "Ana"}});
+    auto& [root, program, dialog] = on;
     auto* search = dialog.findChild<QLineEdit*>("search");
     QTest::keyClicks(search, "an");
     QTest::keyClick(search, Qt::Key_Return);
@@ -91,9 +95,8 @@ void CAbrirPacienteTest::searchFindsTheFirstNameBeginningWithTheText() {
 }
 
 void CAbrirPacienteTest::clientCommandsFollowTheChoice() {
-    DataRoot root({{1, "Ana"}});
-    ProgramOnRoot program(root.path());
-    CAbrirPaciente dialog(program.frame());
+    ListOnRoot on({{1, "Ana"}});
+    auto& [root, program, dialog] = on;
     const char* chosen[] = {"open", "personalInformation", "deleteClient"};
     for (const char* name : chosen) QVERIFY2(!button(dialog, name)->isEnabled(), name);
     for (const char* name : {"newClient", "otherFiles", "close"}) QVERIFY2(button(dialog, name)->isEnabled(), name);
@@ -108,12 +111,17 @@ void CAbrirPacienteTest::clientCommandsFollowTheChoice() {
     QCOMPARE(program.prompt.shown.size(), std::size_t(2));
     dialog.open();
     QCOMPARE(dialog.result(), 0);
+    // New Client and Other Files end the list with their own codes.
+    button(dialog, "newClient")->click();
+    QCOMPARE(dialog.result(), int(CAbrirPaciente::NewClientChosen));
+    CAbrirPaciente again(program.frame());
+    button(again, "otherFiles")->click();
+    QCOMPARE(again.result(), int(CAbrirPaciente::OtherFilesChosen));
 }
 
 void CAbrirPacienteTest::openMakesTheChosenClientCurrent() {
-    DataRoot root({{1, "Ana", 1}, {2, "Bia", 2, "12241999"}});
-    ProgramOnRoot program(root.path());
-    CAbrirPaciente dialog(program.frame());
+    ListOnRoot on({{1, "Ana", 1}, {2, "Bia", 2, "12241999"}});
+    auto& [root, program, dialog] = on;
     dialog.show();
     dialog.list()->selectRow(1);
     QTest::keyClick(dialog.list(), Qt::Key_Return);
@@ -124,22 +132,10 @@ void CAbrirPacienteTest::openMakesTheChosenClientCurrent() {
     QCOMPARE(std::string(recordText(program.frame().CurrentClient.DataNasc)), std::string("12241999"));
 }
 
-void CAbrirPacienteTest::newClientAndOtherFilesEndTheList() {
-    DataRoot root({{1, "Ana"}});
-    ProgramOnRoot program(root.path());
-    CAbrirPaciente dialog(program.frame());
-    button(dialog, "newClient")->click();
-    QCOMPARE(dialog.result(), int(CAbrirPaciente::NewClientChosen));
-    CAbrirPaciente again(program.frame());
-    button(again, "otherFiles")->click();
-    QCOMPARE(again.result(), int(CAbrirPaciente::OtherFilesChosen));
-}
-
 void CAbrirPacienteTest::personalInformationRewritesTheRow() {
-    DataRoot root({{1, "Ana"}, {2, "Bia"}});
-    ProgramOnRoot program(root.path());
+    ListOnRoot on({{1, "Ana"}, {2, "Bia"}});
+    auto& [root, program, dialog] = on;
     program.frame().CurrentClient = makeRecord({2, "Bia"});
-    CAbrirPaciente dialog(program.frame());
     dialog.list()->selectRow(1);
     ModalDriver::whenModal([](QWidget* modal) {
         auto* form = qobject_cast<CPaciente*>(modal);
@@ -148,35 +144,30 @@ void CAbrirPacienteTest::personalInformationRewritesTheRow() {
     });
     dialog.personalInformation();
     QCOMPARE(dialog.list()->cellText(1, 1), QString("Bianca"));
-    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf").at(1).nome), std::string("Bianca"));
+    QCOMPARE(tableNames(root.path()), (std::vector<std::string>{"Ana", "Bianca"}));
     // The open client is the one changed: the title follows.
     QCOMPARE(program.frame().windowTitle(), QString("Bianca - Sonalys"));
     QCOMPARE(std::string(recordText(program.frame().CurrentClient.Nome)), std::string("Bianca"));
 }
 
 void CAbrirPacienteTest::deleteRemovesTheFilesTheFolderAndOnlyThatRow() {
-    DataRoot root({{1, "Ana"}, {2, "Bia"}, {3, "Caio"}});
-    for (const char* name : {"wv001.wav", "wv001.ddt", "wv001.txt", "wv001.mrk", "qv002.wav", "report.rtf", "a.f0"}) {
+    ListOnRoot on({{1, "Ana"}, {2, "Bia"}, {3, "Caio"}});
+    auto& [root, program, dialog] = on;
+    for (const char* name : {"wv001.wav", "wv001.ddt", "wv001.txt", "wv001.mrk", "qv002.wav", "report.rtf", "a.f0"})
         root.write(std::string("pac002/") + name, "x");
-    }
     root.write("pac001/wv001.wav", "keep");
-    ProgramOnRoot program(root.path());
-    CAbrirPaciente dialog(program.frame());
     dialog.list()->selectRow(1);
     program.prompt.answers = {false};
     dialog.deleteClient();
     QCOMPARE(program.prompt.last(), std::string(kConfirmDeleteClient));
     QVERIFY(std::filesystem::exists(root / "pac002/qv002.wav"));
-    QCOMPARE(readDbfRows(root / "pacb.dbf").size(), std::size_t(3));
+    QCOMPARE(tableNames(root.path()).size(), std::size_t(3));
 
     program.prompt.answers = {true};
     dialog.deleteClient();
     QVERIFY(!std::filesystem::exists(root / "pac002"));
     QVERIFY(std::filesystem::exists(root / "pac001/wv001.wav"));
-    const auto rows = readDbfRows(root / "pacb.dbf");
-    QCOMPARE(rows.size(), std::size_t(2));
-    QCOMPARE(trimmed(rows[0].nome), std::string("Ana"));
-    QCOMPARE(trimmed(rows[1].nome), std::string("Caio"));
+    QCOMPARE(tableNames(root.path()), (std::vector<std::string>{"Ana", "Caio"}));
     QCOMPARE(column(dialog.list(), 1), QStringList({"Ana", "Caio"}));
 
     // A file the deletion does not know keeps the folder; the client goes from the table all the same.
@@ -185,17 +176,16 @@ void CAbrirPacienteTest::deleteRemovesTheFilesTheFolderAndOnlyThatRow() {
     dialog.deleteClient();
     QCOMPARE(program.prompt.last(), std::string("Client´s folder can´t be deleted!"));
     QVERIFY(std::filesystem::exists(root / "pac003/wv001.bkp"));
-    QCOMPARE(readDbfRows(root / "pacb.dbf").size(), std::size_t(1));
+    QCOMPARE(tableNames(root.path()), std::vector<std::string>{"Ana"});
 }
 
 void CAbrirPacienteTest::deletingTheOpenClientLeavesNoClient() {
-    DataRoot root({{1, "Ana"}, {2, "Bia"}});
-    ProgramOnRoot program(root.path());
+    ListOnRoot on({{1, "Ana"}, {2, "Bia"}});
+    auto& [root, program, dialog] = on;
     CMainFrame& frame = program.frame();
     frame.CurrentClient = makeRecord({2, "Bia"});
     frame.UpdateCommands();
     QVERIFY(frame.command(32817)->isEnabled());
-    CAbrirPaciente dialog(frame);
     dialog.list()->selectRow(1);
     dialog.deleteClient();
     QCOMPARE(frame.CurrentClient.Codigo, -1);
@@ -205,10 +195,9 @@ void CAbrirPacienteTest::deletingTheOpenClientLeavesNoClient() {
 }
 
 void CAbrirPacienteTest::deletingAClientGoneMeanwhileTouchesNothing() {
-    DataRoot root({{1, "Ana"}, {2, "Bia"}});
+    ListOnRoot on({{1, "Ana"}, {2, "Bia"}});
+    auto& [root, program, dialog] = on;
     root.write("pac002/wv001.wav", "x");
-    ProgramOnRoot program(root.path());
-    CAbrirPaciente dialog(program.frame());
     dialog.list()->selectRow(1);
     // Another copy of the program deletes Bia while the list is open.
     {
@@ -218,17 +207,14 @@ void CAbrirPacienteTest::deletingAClientGoneMeanwhileTouchesNothing() {
     }
     dialog.deleteClient();
     QCOMPARE(program.prompt.last(), std::string(kClientNoLongerInTable));
-    const auto rows = readDbfRows(root / "pacb.dbf");
-    QCOMPARE(rows.size(), std::size_t(1));
-    QCOMPARE(trimmed(rows[0].nome), std::string("Ana"));  // the last row was not taken in Bia's place
+    QCOMPARE(tableNames(root.path()), std::vector<std::string>{"Ana"});  // the last row was not taken in Bia's place
     QVERIFY(std::filesystem::exists(root / "pac002/wv001.wav"));
     QCOMPARE(column(dialog.list(), 1), QStringList({"Ana"}));
 }
 
 void CAbrirPacienteTest::headerClickSortsByText() {
-    DataRoot root({{12, "Zeca"}, {3, "ana"}, {7, "Bruno"}});
-    ProgramOnRoot program(root.path());
-    CAbrirPaciente dialog(program.frame());
+    ListOnRoot on({{12, "Zeca"}, {3, "ana"}, {7, "Bruno"}});
+    auto& [root, program, dialog] = on;
     dialog.show();
     dialog.list()->selectRow(0);  // Zeca
     const auto clickHeader = [&](int section) {

@@ -48,8 +48,7 @@ private slots:
     void eachRowCarriesThePictureOfItsKind();
     void openReadsTheNumberAtTheEndOfTheRow();
     void aRecordingSentToBackupCanBeNeitherOpenedNorDeleted();
-    void deleteRemovesSoundNotesAndDateButKeepsLabels();
-    void pickingForComparisonHidesDelete();
+    void deleteRemovesSoundNotesAndDateButKeepsLabelsAndIsNotOfferedWhenPicking();
 };
 
 void CAbrirSessaoTest::rowsAreNewestFirstInTheLanguagesDateOrder_data() {
@@ -86,9 +85,8 @@ void CAbrirSessaoTest::eachRowCarriesThePictureOfItsKind() {
     for (int row = 0; row < dialog.list()->rowCount(); ++row) kinds << dialog.list()->rowKey(row);
     // File 6 qv undated, 3 sent to backup, 4 wv dated (its sound wins over the stale marker), 1 wv dated, 2 qv dated.
     QCOMPARE(kinds, QList<int>({3, 4, 0, 0, 1}));
-    for (int row = 0; row < dialog.list()->rowCount(); ++row) {
+    for (int row = 0; row < dialog.list()->rowCount(); ++row)
         QVERIFY(!dialog.list()->model()->index(row, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
-    }
 }
 
 void CAbrirSessaoTest::openReadsTheNumberAtTheEndOfTheRow() {
@@ -125,7 +123,7 @@ void CAbrirSessaoTest::aRecordingSentToBackupCanBeNeitherOpenedNorDeleted() {
     QCOMPARE(dialog.list()->rowCount(), 5);
 }
 
-void CAbrirSessaoTest::deleteRemovesSoundNotesAndDateButKeepsLabels() {
+void CAbrirSessaoTest::deleteRemovesSoundNotesAndDateButKeepsLabelsAndIsNotOfferedWhenPicking() {
     const ClientWithRecordings root;
     FakePrompt prompt;
     CAbrirSessao dialog(makeRecord({5, "Bia"}), root.path(), LanguageId::English, prompt);
@@ -140,23 +138,18 @@ void CAbrirSessaoTest::deleteRemovesSoundNotesAndDateButKeepsLabels() {
     QCOMPARE(prompt.last(),
              std::string("Attention, All Information about this File will be deleted!\nAre you Sure you Want to "
                          "Continue?"));
-    for (const char* gone : {"wv001.wav", "wv001.txt", "wv001.ddt"}) {
+    for (const char* gone : {"wv001.wav", "wv001.txt", "wv001.ddt"})
         QVERIFY2(!std::filesystem::exists(root / "pac005" / gone), gone);
-    }
     QVERIFY(std::filesystem::exists(root / "pac005/wv001.mrk"));
     QCOMPARE(deleted.count(), 1);
     QCOMPARE(deleted.at(0).at(0).toInt(), 1);
     QVERIFY(!rows(dialog.list()).contains("03/14/2024 File 1"));
     QCOMPARE(dialog.list()->rowCount(), 4);
-}
-
-void CAbrirSessaoTest::pickingForComparisonHidesDelete() {
-    const ClientWithRecordings root;
-    FakePrompt prompt;
-    CAbrirSessao dialog(makeRecord({5, "Bia"}), root.path(), LanguageId::English, prompt, true);
-    dialog.show();
-    QVERIFY(!dialog.findChild<QPushButton*>("delete")->isVisible());
-    QVERIFY(dialog.findChild<QPushButton*>("open")->isVisible());
+    // Picking a recording to compare with offers no Delete.
+    CAbrirSessao picking(makeRecord({5, "Bia"}), root.path(), LanguageId::English, prompt, true);
+    picking.show();
+    QVERIFY(!picking.findChild<QPushButton*>("delete")->isVisible());
+    QVERIFY(picking.findChild<QPushButton*>("open")->isVisible());
 }
 
 QTEST_MAIN(CAbrirSessaoTest)

@@ -17,6 +17,7 @@ Q_DECLARE_METATYPE(LanguageId)
 namespace {
 
 struct Form {
+    DataRoot own;  // the data root, unless the test gives one
     DataRoot& root;
     FakePrompt prompt;
     CPacienteTable table{root.path(), prompt};
@@ -30,6 +31,8 @@ struct Form {
         dialog = std::make_unique<CPaciente>(mode, record, table, current, root.path(), language, prompt);
         dialog->show();
     }
+    explicit Form(CPaciente::Mode mode, const PacienteRecord& record, LanguageId language = LanguageId::English)
+        : Form(own, mode, record, language) {}
     QLineEdit* box(const char* name) const { return dialog->findChild<QLineEdit*>(name); }
     void check(const char* type) const { dialog->findChild<QRadioButton*>(type)->setChecked(true); }
     // Types into whichever box has the focus, one key at a time, as a person does.
@@ -51,12 +54,6 @@ struct Form {
     void ok() const { dialog->findChild<QPushButton*>("ok")->click(); }
 };
 
-PacienteRecord proposed(int code) {
-    PacienteRecord record;
-    record.Codigo = code;
-    return record;
-}
-
 }  // namespace
 
 class CPacienteTest : public QObject {
@@ -64,8 +61,7 @@ class CPacienteTest : public QObject {
 private slots:
     void birthDateIsTypedInTheLanguagesOrder_data();
     void birthDateIsTypedInTheLanguagesOrder();
-    void outOfRangeDigitsWarnAndClearTheBox();
-    void singleDigitsCompleteWithoutMovingOn();
+    void dateBoxesTakeOnlyDigitsInRange();
     void okChecksNameTypeAndDateInOrder();
     void dateIsStoredMonthDayYearOrEmpty();
     void insertAddsTheRowAndFolderAndMakesTheClientCurrent();
@@ -95,8 +91,7 @@ void CPacienteTest::birthDateIsTypedInTheLanguagesOrder() {
     QFETCH(QString, firstBox);
     QFETCH(QStringList, keys);
     QFETCH(QStringList, focusAfter);
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, proposed(1), language);
+    Form form(CPaciente::InsertMode, makeRecord({1, ""}), language);
     form.typeInto("name", "Ana Souza");
     form.check("woman");
     form.box(firstBox.toLatin1().constData())->setFocus();
@@ -110,12 +105,11 @@ void CPacienteTest::birthDateIsTypedInTheLanguagesOrder() {
     QCOMPARE(form.dialog->result(), int(QDialog::Accepted));
     // Whatever the order of entry, the table keeps month, day, year.
     QCOMPARE(std::string(recordText(form.dialog->record().DataNasc)), std::string("03141975"));
-    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf").at(0).datanasc), std::string("03141975"));
+    QCOMPARE(trimmed(readDbfRows(form.root / "pacb.dbf").at(0).datanasc), std::string("03141975"));
 }
 
-void CPacienteTest::outOfRangeDigitsWarnAndClearTheBox() {
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, proposed(1));
+void CPacienteTest::dateBoxesTakeOnlyDigitsInRange() {
+    Form form(CPaciente::InsertMode, makeRecord({1, ""}));
     form.typeInto("day", "00");
     QCOMPARE(form.prompt.last(), std::string("Invalid Day !"));
     QCOMPARE(form.box("day")->text(), QString());
@@ -136,21 +130,16 @@ void CPacienteTest::outOfRangeDigitsWarnAndClearTheBox() {
     form.typeInto("year", "1890");
     QCOMPARE(form.prompt.shown.size(), std::size_t(5));
     QVERIFY(form.dialog->dayComplete() && form.dialog->monthComplete() && form.dialog->yearComplete());
-    // Letters never reach a date box.
-    form.box("day")->clear();
+    // Letters never reach a date box; a single digit completes a day or month without moving on, but 0 does not.
+    for (const char* box : {"day", "month", "year"}) form.box(box)->clear();
     form.typeInto("day", "a");
     QCOMPARE(form.box("day")->text(), QString());
-}
-
-void CPacienteTest::singleDigitsCompleteWithoutMovingOn() {
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, proposed(1));
-    form.typeInto("day", "5");
-    QVERIFY(form.dialog->dayComplete());
-    QCOMPARE(form.dialog->focusWidget()->objectName(), QString("day"));
-    form.box("day")->clear();
     form.typeInto("day", "0");
     QVERIFY(!form.dialog->dayComplete());
+    form.box("day")->clear();
+    form.type("5");
+    QVERIFY(form.dialog->dayComplete());
+    QCOMPARE(form.dialog->focusWidget()->objectName(), QString("day"));
     form.typeInto("month", "9");
     QVERIFY(form.dialog->monthComplete());
     form.typeInto("year", "197");
@@ -158,8 +147,7 @@ void CPacienteTest::singleDigitsCompleteWithoutMovingOn() {
 }
 
 void CPacienteTest::okChecksNameTypeAndDateInOrder() {
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, proposed(1));
+    Form form(CPaciente::InsertMode, makeRecord({1, ""}));
     form.typeInto("name", "A");
     form.ok();
     QCOMPARE(form.prompt.last(), std::string("You need to type the client´s name!"));
@@ -173,7 +161,7 @@ void CPacienteTest::okChecksNameTypeAndDateInOrder() {
     QCOMPARE(form.prompt.last(), std::string("Invalid Year (it must have 4 digits)\nSample.: 1974"));
     QCOMPARE(form.dialog->focusWidget()->objectName(), QString("year"));
     QVERIFY(form.dialog->isVisible());
-    QVERIFY(readDbfRows(root / "pacb.dbf").empty());
+    QVERIFY(readDbfRows(form.root / "pacb.dbf").empty());
     form.type("2015");
     form.ok();
     QCOMPARE(form.prompt.shown.size(), std::size_t(3));
@@ -191,8 +179,7 @@ void CPacienteTest::dateIsStoredMonthDayYearOrEmpty() {
     // 31 February passes: days are not checked against the month. A day alone, or no date, stores nothing.
     for (const Case& c : {Case{"31", "02", "2000", "02312000"}, Case{"7", "3", "1950", "03071950"},
                           Case{"15", "", "", ""}, Case{"", "", "", ""}, Case{"", "", "1980", ""}}) {
-        DataRoot root;
-        Form form(root, CPaciente::InsertMode, proposed(1));
+        Form form(CPaciente::InsertMode, makeRecord({1, ""}));
         form.typeInto("name", "Bruno");
         form.check("man");
         form.typeInto("day", c.day);
@@ -206,7 +193,7 @@ void CPacienteTest::dateIsStoredMonthDayYearOrEmpty() {
 
 void CPacienteTest::insertAddsTheRowAndFolderAndMakesTheClientCurrent() {
     DataRoot root({{1, "Ana"}});
-    Form form(root, CPaciente::InsertMode, proposed(2));
+    Form form(root, CPaciente::InsertMode, makeRecord({2, ""}));
     QCOMPARE(form.box("code")->text(), QString("002"));
     QCOMPARE(form.dialog->findChild<QPushButton*>("ok")->text(), QString("Insert"));
     form.typeInto("name", "Carla Dias");
@@ -230,7 +217,7 @@ void CPacienteTest::insertAddsTheRowAndFolderAndMakesTheClientCurrent() {
 void CPacienteTest::insertReusesAnOldFolderOfTheSameCode() {
     DataRoot root;
     root.write("PAC004/wv001.wav", "RIFF");  // left behind by an old client, spelled by another system
-    Form form(root, CPaciente::InsertMode, proposed(4));
+    Form form(root, CPaciente::InsertMode, makeRecord({4, ""}));
     form.typeInto("name", "Davi");
     form.check("man");
     form.ok();
@@ -252,13 +239,10 @@ void CPacienteTest::editRewritesOnlyThatClientsRow() {
     form.type("2001");
     form.ok();
     QVERIFY(form.prompt.shown.empty());
+    QCOMPARE(tableNames(root.path()), (std::vector<std::string>{"Ana", "Beatriz", "Caio"}));
     const auto rows = readDbfRows(root / "pacb.dbf");
-    QCOMPARE(rows.size(), std::size_t(3));
-    QCOMPARE(trimmed(rows[0].nome), std::string("Ana"));
     QCOMPARE(trimmed(rows[0].datanasc), std::string("01021990"));
-    QCOMPARE(trimmed(rows[1].nome), std::string("Beatriz"));
     QCOMPARE(trimmed(rows[1].datanasc), std::string("11302001"));
-    QCOMPARE(trimmed(rows[2].nome), std::string("Caio"));
 
     // A stored date fills the three boxes, complete.
     Form again(root, CPaciente::EditMode, makeRecord({1, "Ana", 1, "01021990"}));
@@ -275,14 +259,11 @@ void CPacienteTest::editOfAClientGoneFromTheTableChangesNothing() {
     form.ok();
     QCOMPARE(form.prompt.shown, std::vector<std::string>{std::string(kClientNoLongerInTable)});
     QCOMPARE(form.dialog->result(), int(QDialog::Rejected));
-    const auto rows = readDbfRows(root / "pacb.dbf");
-    QCOMPARE(rows.size(), std::size_t(2));
-    QCOMPARE(trimmed(rows[1].nome), std::string("Bia"));  // the last row is not overwritten
+    QCOMPARE(tableNames(root.path()), (std::vector<std::string>{"Ana", "Bia"}));  // the last row is not overwritten
 }
 
 void CPacienteTest::textsAreLimitedToTheirFieldsInTheTablesCodePage() {
-    DataRoot root;
-    Form form(root, CPaciente::InsertMode, proposed(1));
+    Form form(CPaciente::InsertMode, makeRecord({1, ""}));
     form.typeInto("name", QString(70, 'x'));
     QCOMPARE(form.box("name")->text().size(), 59);
     form.typeInto("state", "ABCD");
@@ -295,7 +276,7 @@ void CPacienteTest::textsAreLimitedToTheirFieldsInTheTablesCodePage() {
     QCOMPARE(form.box("address")->text(), QString());
 
     // In Korean a Hangul syllable takes two of the field's bytes.
-    Form korean(root, CPaciente::InsertMode, proposed(1), LanguageId::Korean);
+    Form korean(form.root, CPaciente::InsertMode, makeRecord({1, ""}), LanguageId::Korean);
     korean.typeInto("state", QString::fromUtf8("서울시"));
     QCOMPARE(korean.box("state")->text(), QString::fromUtf8("서"));
 }

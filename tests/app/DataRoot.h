@@ -94,3 +94,10 @@ inline std::string trimmed(std::string text) {
     while (!text.empty() && text.back() == ' ') text.pop_back();
     return text;
 }
+
+// The names in the table's rows, in order, blanks taken off.
+inline std::vector<std::string> tableNames(const std::filesystem::path& root) {
+    std::vector<std::string> names;
+    for (const DbfRow& row : readDbfRows(root / "pacb.dbf")) names.push_back(trimmed(row.nome));
+    return names;
+}

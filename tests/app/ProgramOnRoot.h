@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "FakePrompt.h"
+#include "TempDir.h"
 #include "app/CAFApp.h"
 #include "app/CMainFrame.h"
 
@@ -22,4 +23,12 @@ struct ProgramOnRoot {
         }
     }
     CMainFrame& frame() const { return *app->mainFrame(); }
+};
+
+// A copy of the bundled demo data root, to work on freely.
+struct DemoCopy : TempDir {
+    DemoCopy() {
+        std::filesystem::copy(std::filesystem::path(SONALYS_SOURCE_DIR) / "demo", path(),
+                              std::filesystem::copy_options::recursive);
+    }
 };

@@ -24,10 +24,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct DemoCopy : TempDir {
-    DemoCopy() { fs::copy(fs::path(SONALYS_SOURCE_DIR) / "demo", path(), fs::copy_options::recursive); }
-};
-
 QString pictureFolder() {
     const QString folder = QStringLiteral(SONALYS_SCREENSHOT_DIR);
     QDir().mkpath(folder);
@@ -41,19 +37,13 @@ QImage screen(QWidget& frame, QWidget* dialog) {
     QPainter painter(&picture);
     painter.drawPixmap(0, 0, frame.grab());
     if (dialog != nullptr) {
-        // The desktop draws a dialog's title bar; here a plain one stands in for it.
-        const bool titled = !dialog->windowFlags().testFlag(Qt::FramelessWindowHint);
-        const int titleHeight = titled ? dialog->fontMetrics().height() + 10 : 0;
+        // The desktop draws a dialog's frame and title; a plain outline stands in for them here.
         const QPixmap window = dialog->grab();
-        const QPoint at((frame.width() - window.width()) / 2, (frame.height() - window.height() + titleHeight) / 2);
-        const QRect title(at.x(), at.y() - titleHeight, window.width(), titleHeight);
-        painter.fillRect(title.united(QRect(at, window.size())).translated(4, 4), QColor(0, 0, 0, 90));
-        painter.fillRect(title, QColor(0x0b, 0x3c, 0x49));
-        painter.setPen(Qt::white);
-        painter.drawText(title.adjusted(8, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, dialog->windowTitle());
-        painter.drawPixmap(at, window);
+        const QRect at(QPoint((frame.width() - window.width()) / 2, (frame.height() - window.height()) / 2),
+                       window.size());
+        painter.drawPixmap(at.topLeft(), window);
         painter.setPen(QColor(0x0b, 0x3c, 0x49));
-        painter.drawRect(title.united(QRect(at, window.size())).adjusted(0, 0, -1, -1));
+        painter.drawRect(at.adjusted(-1, -1, 0, 0));
     }
     return picture;
 }

@@ -1,0 +1,309 @@
+// The main view's parts on their own: the two layouts and the mapping of the page onto the widget, the overview
+// strip, the texts around the graph, selections in samples, the command table and the display mode's moves.
+#include <vector>
+
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+
+#include "FakePrompt.h"
+#include "view/DisplayModeRules.h"
+#include "view/GraphCaptions.h"
+#include "view/ReadOut.h"
+#include "view/Selection.h"
+#include "view/ViewCommands.h"
+#include "view/ViewLayout.h"
+#include "view/WaveStrip.h"
+
+using M = DisplayMode;
+
+class ViewPartsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void theSmallLayoutServesScreensExactly800WideOr600High();
+    void theLargeLayoutMovesByHalfTheSizeAboveTheReference();
+    void thePageFillsTheWidgetAndPositionsMapBack();
+    void stripSamplesStayInsideTheStripAtBothExtremes();
+    void eachStripColumnTakesEightPointsAtEvenFractionsAndMissesWhatLiesBetween();
+    void aRangeShorterThanTheStripRepeatsSamples();
+    void theLiveTraceKeepsTheNewestPointsFromTheLeft();
+    void theStripFrameIsWhiteWithAnOutlineAndThreeGuideLines();
+    void theDurationSplitsMinutesAboveAMinuteAndNeverShowsHours();
+    void formatFileAndTimeAxisTexts();
+    void readOutsUseTheShownRangeAndTheTopFrequency();
+    void theReadOutBoxGoesLeftNearTheRightEndAndStaysInTheGraph();
+    void aSelectionBecomesARangeOfSamples();
+    void commandsAreEnabledAndCheckedByTheState();
+    void theDisplayModeMovesByOpeningTheCommandsAndRecording();
+    void anUnknownModeIsShownAndDrawsBlack();
+
+private:
+    const ViewLayout m_small = ViewLayout::forScreen({800, 600});  // graph 92 + 671, 100 + 300; strip 445 to 495
+};
+
+void ViewPartsTest::theSmallLayoutServesScreensExactly800WideOr600High() {
+    // One of the two tests suffices: 800 x 1024 and 1024 x 600 are small too.
+    for (const QSize screen : {QSize(800, 600), QSize(800, 1024), QSize(1024, 600)}) {
+        const ViewLayout l = ViewLayout::forScreen(screen);
+        QVERIFY(!l.LargeLayout);
+        QCOMPARE(QList<int>({l.GraphLeft, l.GraphWidth, l.GraphTop, l.GraphHeight, l.StripTop, l.StripHeight,
+                             l.TitleTop, l.TitleHeight, l.PanelSplit}),
+                 QList<int>({92, 671, 100, 300, 100 + 300 + 45, 50, 50, 35, 400}));
+        QCOMPARE(l.verticalStretch(), 1.0);
+    }
+    QVERIFY(ViewLayout::forScreen({801, 601}).LargeLayout);
+}
+
+void ViewPartsTest::theLargeLayoutMovesByHalfTheSizeAboveTheReference() {
+    const ViewLayout r = ViewLayout::forScreen({1024, 768});
+    QVERIFY(r.LargeLayout);
+    QCOMPARE(QList<int>({r.GraphLeft, r.GraphWidth, r.GraphTop, r.StripTop, r.StripHeight, r.TitleTop, r.TitleHeight,
+                         r.PanelSplit}),
+             QList<int>({140, 800, 150, 495, 70, 70, 60, 500}));
+    // Offsets 448 and 156; the read-out row does not move down.
+    const ViewLayout w = ViewLayout::forScreen({1920, 1080});
+    QCOMPARE(QList<int>({w.GraphLeft, w.GraphTop, w.StripTop, w.PanelSplit, w.TitleTop}),
+             QList<int>({588, 306, 306 + 345, 948, 70}));
+    const ViewLayout smaller = ViewLayout::forScreen({1000, 700});  // negative offsets are 0
+    QCOMPARE(QList<int>({smaller.XOffset, smaller.YOffset, smaller.GraphLeft}), QList<int>({0, 0, 140}));
+    QCOMPARE(ViewLayout::forScreen({1281, 1025}).GraphLeft, 140 + 128);  // 257 x 0.5, truncated
+}
+
+void ViewPartsTest::thePageFillsTheWidgetAndPositionsMapBack() {
+    const ViewLayout layout = ViewLayout::forScreen({1024, 768});
+    QCOMPARE(layout.pageSize(), QSizeF(1024, 600));  // 768 less the window's 102, over 1.11
+    // On a widget of the reference size, the stretch of the large layout is 111 / 100.
+    const QSizeF widget(1024, 666);
+    QCOMPARE(layout.toWidget(widget).map(QPointF(140, 150)), QPointF(140, 166.5));
+    QCOMPARE(layout.toPage(QPointF(512, 333), widget), QPointF(512, 300));
+    // Any other size fills the widget in both directions.
+    const QSizeF half(512, 300);
+    QCOMPARE(layout.toWidget(half).map(QPointF(1024, 600)), QPointF(512, 300));
+    QCOMPARE(layout.toPage(QPointF(70, 75), half), QPointF(140, 150));
+    QCOMPARE(m_small.pageSize(), QSizeF(800, 498));
+    QCOMPARE(m_small.toWidget(QSizeF(800, 498)).map(QPointF(92, 100)), QPointF(92, 100));
+}
+
+void ViewPartsTest::stripSamplesStayInsideTheStripAtBothExtremes() {
+    QCOMPARE(StripY(m_small, 0.0f), 470);
+    QCOMPARE(StripY(m_small, 16384.0f), 457);  // 470 - 12.5, truncated
+    QCOMPARE(StripY(m_small, -16384.0f), 482);
+    QCOMPARE(StripY(m_small, -32768.0f), 494);  // 495 is the bottom: one pixel inside
+    QCOMPARE(StripY(m_small, 32767.0f), 446);   // 445.0008 reaches the top: one pixel inside
+}
+
+void ViewPartsTest::eachStripColumnTakesEightPointsAtEvenFractionsAndMissesWhatLiesBetween() {
+    const int width = m_small.GraphWidth;
+    std::vector<std::int16_t> samples(static_cast<std::size_t>(width) * 16, 0);  // 16 samples a column
+    samples[5 * 16 + 6] = -32768;                                                // column 5, point 3: 6 = 3 x 16 / 8
+    samples[9 * 16 + 7] = -32768;  // between two points of column 9: never read
+    const QPolygon trace = StripTrace(m_small, samples, 0, static_cast<std::int64_t>(samples.size()));
+    QCOMPARE(trace.size(), width * 8);
+    for (int i = 0; i < trace.size(); ++i) {
+        QCOMPARE(trace[i].x(), m_small.GraphLeft + i / 8);
+        QCOMPARE(trace[i].y(), i == 5 * 8 + 3 ? 494 : 470);
+    }
+}
+
+void ViewPartsTest::aRangeShorterThanTheStripRepeatsSamples() {
+    std::vector<std::int16_t> samples(1000, 0);
+    for (int i = 0; i < 1000; ++i) samples[i] = static_cast<std::int16_t>(i * 30);
+    // 100 samples over 671 columns: 0.149 of a sample a column, so every point of columns 0 to 6 is sample 500.
+    const QPolygon trace = StripTrace(m_small, samples, 500, 600);
+    QCOMPARE(trace.size(), m_small.GraphWidth * 8);
+    for (int i = 0; i < 7 * 8; ++i) QCOMPARE(trace[i].y(), StripY(m_small, 15000.0f));
+    QCOMPARE(trace[7 * 8].y(), StripY(m_small, 15030.0f));  // column 7: 7 x 0.149 = 1.04
+    QCOMPARE(trace.last().y(), StripY(m_small, 599 * 30.0f));
+}
+
+void ViewPartsTest::theLiveTraceKeepsTheNewestPointsFromTheLeft() {
+    LiveTrace live(10);  // 80 points
+    std::vector<std::int16_t> block(64);
+    for (int b = 0; b < 3; ++b) {
+        for (int i = 0; i < 64; ++i) block[i] = static_cast<std::int16_t>(b * 64 + i);
+        live.addBlock(block);  // 4 columns of 16 samples: points at 0, 2, ..., 14 of each
+    }
+    QCOMPARE(live.count(), 80);
+    // 96 points were added; the 16 oldest (the first two columns of block 0) are gone.
+    QCOMPARE(live.points()[0], 32.0f);
+    QCOMPARE(live.points()[1], 34.0f);
+    QCOMPARE(live.points()[79], 128.0f + 62.0f);
+    const QPolygon trace = live.trace(m_small);
+    QCOMPARE(trace.size(), 80);
+    QCOMPARE(trace[0].x(), m_small.GraphLeft);
+    QCOMPARE(trace[79].x(), m_small.GraphLeft + 9);
+    live.addBlock({});  // an empty block adds nothing
+    QCOMPARE(live.count(), 80);
+}
+
+void ViewPartsTest::theStripFrameIsWhiteWithAnOutlineAndThreeGuideLines() {
+    QImage image(820, 500, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QPainter painter(&image);
+    DrawStrip(painter, m_small, {}, Qt::black);
+    painter.end();
+    const int x = 300;
+    for (const QPoint outline : {QPoint(x, 445), QPoint(x, 494), QPoint(m_small.GraphLeft, 460),
+                                 QPoint(m_small.GraphLeft + m_small.GraphWidth + 1, 460)})
+        QCOMPARE(image.pixel(outline), qRgb(0, 0, 0));
+    for (const int y : {445 + 12, 445 + 25, 445 + 37}) QCOMPARE(image.pixel(x, y), kGuideLineColour);
+    QCOMPARE(image.pixel(x, 450), qRgb(255, 255, 255));
+    QCOMPARE(image.pixel(x, 496), qRgb(255, 0, 0));  // nothing drawn past the strip
+}
+
+void ViewPartsTest::theDurationSplitsMinutesAboveAMinuteAndNeverShowsHours() {
+    const std::vector<std::tuple<std::int64_t, int, std::string>> rows = {
+        {std::int64_t(61.5 * 22050), 22050, "00:01:01,500"},
+        {std::int64_t{3700} * 11025, 11025, "00:61:40,000"},  // minutes run past 59
+        {std::int64_t{60} * 44100, 44100, "00:00:60,000"},    // exactly 60 s stays in seconds
+        {90469, 22050, "00:00:04,102"},                       // 4.1029 s: milliseconds truncated
+        {0, 11025, "00:00:00,000"}};
+    for (const auto& [count, rate, text] : rows) QCOMPARE(DurationText(count, rate), text);
+}
+
+void ViewPartsTest::formatFileAndTimeAxisTexts() {
+    WaveFormat format;
+    format.nSamplesPerSec = 22050;
+    format.wBitsPerSample = 16;
+    format.nChannels = 1;
+    QCOMPARE(FormatLineText(format), std::string("22050 Hz, 16 Bits Mono"));
+    format.nChannels = 2;
+    format.nSamplesPerSec = 44100;
+    QCOMPARE(FormatLineText(format), std::string("44100 Hz, 16 Bits Stereo"));
+    QCOMPARE(FileLineText(7, "pac001/wv007.wav"), std::string("File 7"));
+    QCOMPARE(FileLineText(-1, "/home/me/Sounds/my voice.wav"), std::string("my voice.wav"));
+    QCOMPARE(FileLineText(-2, "Models/a.wav"), std::string("Model"));
+    // The time labels spread the shown range in sixths.
+    QCOMPARE(TimeAxisLabel(0, 90469, 22050, 0), std::string("0,00 s"));
+    QCOMPARE(TimeAxisLabel(0, 90469, 22050, 6), std::string("4,10 s"));
+    QCOMPARE(TimeAxisLabel(22050, 44100, 22050, 3), std::string("1,50 s"));  // 1 + 3 x (1 / 6)
+    QCOMPARE(TimeAxisLabel(11025, 11025, 11025, 5), std::string("1,00 s"));
+}
+
+void ViewPartsTest::readOutsUseTheShownRangeAndTheTopFrequency() {
+    const ViewLayout layout = ViewLayout::forScreen({1024, 768});  // graph 140 + 800, 150 + 300
+    QCOMPARE(ReadOutSeconds(layout, 140 + 400, 0, 44100, 22050), 1.0);
+    QCOMPARE(ReadOutSeconds(layout, 140 + 200, 22050, 22050 + 8000, 22050), (22050 + 2000) / 22050.0);
+    QCOMPARE(ReadOutHertz(layout, 150 + 150, 7350.0), 3675.0);
+    QCOMPARE(ReadOutHertz(layout, 150, 7350.0), 7350.0);
+    QCOMPARE(ReadOutText(kSpectrogramReadOut, 3675.0, 1.0), std::string("3675,00 Hz   1,00 s"));
+    QCOMPARE(ReadOutText(kSpectrumReadOut, 1.5, -3.256), std::string("1,50 kHz   -3,26 dB"));
+}
+
+void ViewPartsTest::theReadOutBoxGoesLeftNearTheRightEndAndStaysInTheGraph() {
+    const ViewLayout layout = ViewLayout::forScreen({1024, 768});
+    const QRect right = ReadOutBox(layout, {300, 300});
+    QVERIFY(right.left() > 300);
+    QCOMPARE(right.top(), 285);  // 15 above the pointer
+    QCOMPARE(right.width(), kReadOutWidth);
+    QVERIFY(ReadOutBox(layout, {940 - 150, 300}).right() < 940 - 150);  // within 200 of the right end
+    QVERIFY(QRect(layout.pictureRect()).contains(ReadOutBox(layout, {141, 151})));
+}
+
+void ViewPartsTest::aSelectionBecomesARangeOfSamples() {
+    FakePrompt prompt;
+    // 100 samples a pixel: either way the range is the same. An insertion point takes its pixel position as its
+    // length: first (300 - 92) x 100, length 300 x 100, not 0.
+    QCOMPARE(*SelectionSampleRange(m_small, 67100, false, {}, 200, 100, prompt), (SampleRange{800, 10800}));
+    QCOMPARE(*SelectionSampleRange(m_small, 67100, false, {}, 300, 300, prompt), (SampleRange{20800, 20800 + 30000}));
+    // 90469 / 671 in float times 671 falls just short of 90469; the right end still ends the recording.
+    for (const std::int64_t count : {std::int64_t{90469}, std::int64_t{671}, std::int64_t{26460000}})
+        QCOMPARE(*SelectionSampleRange(m_small, count, false, {}, 92, 763, prompt), (SampleRange{0, count}));
+    QVERIFY(SpansWholeStrip(m_small, 763, 92));
+    QVERIFY(!SpansWholeStrip(m_small, 93, 763));
+    // Zoomed, the range is the shown one.
+    QCOMPARE(*SelectionSampleRange(m_small, 67100, true, {1000, 5000}, 100, 600, prompt), (SampleRange{1000, 5000}));
+    QVERIFY(prompt.shown.empty());
+    QVERIFY(!SelectionSampleRange(m_small, 67100, false, {}, 50, 200, prompt));  // an end left of the strip
+    QCOMPARE(prompt.shown, std::vector<std::string>{"You need to select an area!"});
+}
+
+void ViewPartsTest::commandsAreEnabledAndCheckedByTheState() {
+    using Change = void (*)(CommandState&);
+    const auto none = [](CommandState&) {};
+    const struct {
+        const char* name;
+        int id;
+        Change change;
+        bool enabled;
+    } rows[] = {
+        {"Edit Notes for a client's recording", kIdEditNotes, none, true},
+        {"no Edit Notes for a file from outside", kIdEditNotes, [](CommandState& s) { s.RecordingNumber = -1; }, false},
+        {"no Clean Texts for a file from outside", kIdCleanTexts, [](CommandState& s) { s.RecordingNumber = -1; },
+         false},
+        {"no Clean Texts on a live page", kIdCleanTexts, [](CommandState& s) { s.mode = M::LiveSpectrumMode; }, false},
+        {"Cut over part of the strip", kIdCut, [](CommandState& s) { s.HasSelection = true; }, true},
+        {"no Cut over the whole strip", kIdCut, [](CommandState& s) { s.HasSelection = s.SelectionSpansStrip = true; },
+         false},
+        {"Zoom over the whole strip", kIdZoom, [](CommandState& s) { s.HasSelection = s.SelectionSpansStrip = true; },
+         true},
+        {"no Zoom without a selection", kIdZoom, none, false},
+        {"Zoom back when zoomed", kIdZoom, [](CommandState& s) { s.Zoomed = true; }, true},
+        {"no Copy when zoomed", kIdCopy, [](CommandState& s) { s.HasSelection = s.Zoomed = true; }, false},
+        {"no Silence while recording", kIdSilence, [](CommandState& s) { s.HasSelection = s.Recording = true; }, false},
+        {"Paste only with something cut", kIdPaste, [](CommandState& s) { s.EditKind = 2; }, true},
+        {"no Undo after a copy", kIdUndo, [](CommandState& s) { s.EditKind = 2; }, false},
+        {"Undo after a cut", kIdUndo, [](CommandState& s) { s.EditKind = 1; }, true},
+        {"no Record on the empty view", kIdRecord, [](CommandState& s) { s.mode = M::ModeEmpty; }, false},
+        {"no Record while playing", kIdRecord, [](CommandState& s) { s.Playing = true; }, false},
+        {"no Delete while playing", kIdDelete, [](CommandState& s) { s.Playing = true; }, false},
+        {"Save Changes after an edit", kIdSaveChanges, [](CommandState& s) { s.Modified = true; }, true},
+        {"no Import outside a client", kIdImport, [](CommandState& s) { s.ClientCode = 99999; }, false},
+        {"no Select All when zoomed", kIdSelectAll, [](CommandState& s) { s.Zoomed = true; }, false},
+        {"Compare while playing", kIdCompareWithFile, [](CommandState& s) { s.Playing = true; }, true},
+        {"no Play with nothing loaded", kIdPlay, [](CommandState& s) { s.SampleCount = 0; }, false},
+        {"no Mode menu without a client", kIdShowSpectrum, [](CommandState& s) { s.ClientCode = -1; }, false},
+        {"no About while recording", kIdAbout, [](CommandState& s) { s.Recording = true; }, false},
+        {"no Close without a comparison", kIdCloseComparison, none, false},
+        {"no unknown command", 12345, none, false},
+    };
+    // A client's recording, loaded and shown on the spectrogram page.
+    const auto loaded = [](Change change) {
+        CommandState s{.SampleCount = 1000, .mode = M::FileSpectrogramMode, .RecordingNumber = 3, .ClientCode = 1};
+        change(s);
+        return s;
+    };
+    for (const auto& row : rows) QVERIFY2(CommandEnabled(row.id, loaded(row.change)) == row.enabled, row.name);
+    QVERIFY(CommandChecked(kIdPlay, loaded([](CommandState& s) { s.Playing = true; })));
+    QVERIFY(CommandChecked(kIdRecord, loaded([](CommandState& s) { s.Recording = true; })));
+    QVERIFY(CommandChecked(kIdZoom, loaded([](CommandState& s) { s.Zoomed = true; })));
+    QVERIFY(!CommandChecked(kIdZoom, loaded(none)));
+    QVERIFY(!CommandChecked(kIdDelete, loaded(none)));
+    for (const ViewCommand& command : kViewCommands) QCOMPARE(FindViewCommand(command.id), &command);  // ids unique
+}
+
+void ViewPartsTest::theDisplayModeMovesByOpeningTheCommandsAndRecording() {
+    // Opening keeps the power-spectrum page and otherwise shows the spectrogram.
+    for (const M mode : {M::ModeEmpty, M::LiveSpectrogramMode, M::FileSpectrogramMode})
+        QCOMPARE(ModeAfterOpening(mode), M::FileSpectrogramMode);
+    for (const M mode : {M::LiveSpectrumMode, M::FileSpectrumMode})
+        QCOMPARE(ModeAfterOpening(mode), M::FileSpectrumMode);
+    // The mode commands go to the live or the file page.
+    QCOMPARE(ModeAfterShowSpectrum(true), M::FileSpectrumMode);
+    QCOMPARE(ModeAfterShowSpectrum(false), M::LiveSpectrumMode);
+    QCOMPARE(ModeAfterShowSpectrogram(M::LiveSpectrogramMode, true), M::LiveSpectrogramMode);  // nothing happens
+    QCOMPARE(ModeAfterShowSpectrogram(M::FileSpectrogramMode, false), M::FileSpectrogramMode);
+    QCOMPARE(ModeAfterShowSpectrogram(M::FileSpectrumMode, true), M::FileSpectrogramMode);
+    QCOMPARE(ModeAfterShowSpectrogram(M::ModeEmpty, false), M::LiveSpectrogramMode);
+    // Recording goes live, and back to the file page.
+    QCOMPARE(ModeAfterStartRecording(M::FileSpectrogramMode, M::ModeEmpty), M::LiveSpectrogramMode);
+    QCOMPARE(ModeAfterStartRecording(M::FileSpectrumMode, M::ModeEmpty), M::LiveSpectrumMode);
+    QCOMPARE(ModeAfterStartRecording(M::LiveSpectrumMode, M::ModeEmpty), M::LiveSpectrumMode);
+    QCOMPARE(ModeAfterStartRecording(M::ModeEmpty, M::FileSpectrumMode), M::FileSpectrumMode);
+    QCOMPARE(ModeAfterStartRecording(M::LiveSpectrogramMode, M::FileSpectrogramMode), M::FileSpectrogramMode);
+    QCOMPARE(ModeAfterStopRecording(M::LiveSpectrogramMode), M::FileSpectrogramMode);
+    QCOMPARE(ModeAfterStopRecording(M::LiveSpectrumMode), M::FileSpectrumMode);
+}
+
+void ViewPartsTest::anUnknownModeIsShownAndDrawsBlack() {
+    FakePrompt prompt;
+    for (const M mode :
+         {M::LiveSpectrogramMode, M::LiveSpectrumMode, M::FileSpectrogramMode, M::FileSpectrumMode, M::ModeEmpty})
+        QCOMPARE(TraceColour(mode, prompt), QColor(Qt::black));
+    QVERIFY(prompt.shown.empty());
+    QCOMPARE(TraceColour(static_cast<M>(5), prompt), QColor(Qt::black));
+    QCOMPARE(prompt.shown, std::vector<std::string>{"Invalid Function!"});
+}
+
+QTEST_MAIN(ViewPartsTest)
+#include "ViewParts_test.moc"
