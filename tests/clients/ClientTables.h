@@ -1,16 +1,16 @@
-// Helpers for the client-table tests: clients to insert, and tables to hand to the table as another tool would.
+// Helpers for the client-table tests: clients to insert, tables as another tool would write them, and a fixture.
 #pragma once
 
-#include <cstdint>
-#include <filesystem>
-#include <fstream>
+#include <gtest/gtest.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "FakePrompt.h"
+#include "TempDir.h"
 #include "clients/CPacienteTable.h"
 #include "clients/DbfTable.h"
-#include "clients/PacienteRecord.h"
 #include "clients/TableFileWriter.h"
 
 inline PacienteRecord makeClient(int code, std::string_view name, int tipo = 0) {
@@ -21,16 +21,6 @@ inline PacienteRecord makeClient(int code, std::string_view name, int tipo = 0) 
     return record;
 }
 
-inline std::vector<std::uint8_t> readBytes(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-inline void writeBytes(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-}
-
 // A table with the given fields and rows of raw field texts, as another program could have written it.
 inline void writeForeignTable(const std::filesystem::path& path, std::span<const DbfFieldSpec> fields,
                               const std::vector<std::vector<std::string>>& rows) {
@@ -39,13 +29,32 @@ inline void writeForeignTable(const std::filesystem::path& path, std::span<const
         table.appendBlank();
         for (std::size_t i = 0; i < row.size(); ++i) table.assign(static_cast<int>(i), row[i]);
     }
-    const auto writer = openReplacingWriter(path);
-    table.write(*writer, DbfDate{2024, 5, 17});
+    table.write(*openReplacingWriter(path), DbfDate{2024, 5, 17});
 }
 
-// The codes of the list, in list order.
-inline std::vector<int> listedCodes(const CPacienteTable& table) {
-    std::vector<int> codes;
-    for (int i = 0; i < table.Count(); ++i) codes.push_back(table.EntryAt(i)->record.Codigo);
-    return codes;
-}
+class ClientTable : public ::testing::Test {
+protected:
+    TempDir root;
+    FakePrompt prompt;
+    CPacienteTable table{root.path(), prompt};
+
+    std::filesystem::path file() const { return root / "pacb.dbf"; }
+    std::string bytes() const { return root.read("pacb.dbf"); }
+    void createWith(std::initializer_list<int> codes) {
+        table.CreateTable();
+        for (int code : codes) ASSERT_EQ(table.InsertClient(makeClient(code, "Client " + std::to_string(code))), 1);
+    }
+    void writeRows(const std::vector<std::vector<std::string>>& rows) {
+        writeForeignTable(file(), kPacienteFields, rows);
+    }
+    std::vector<int> codes() const {
+        std::vector<int> result;
+        for (int i = 0; i < table.Count(); ++i) result.push_back(table.EntryAt(i)->record.Codigo);
+        return result;
+    }
+    std::vector<std::string> names() const {
+        std::vector<std::string> result;
+        for (int i = 0; i < table.Count(); ++i) result.emplace_back(recordText(table.EntryAt(i)->record.Nome));
+        return result;
+    }
+};

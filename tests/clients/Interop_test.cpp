@@ -1,16 +1,10 @@
 // The client table against independent dBase readers and writers: GDAL (ogrinfo, ogr2ogr) and dbview.
-#include <gtest/gtest.h>
-
 #include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
-#include <map>
 #include <sstream>
 
 #include "ClientTables.h"
-#include "FakePrompt.h"
-#include "TempDir.h"
+#include "RunCommand.h"
 
 namespace {
 
@@ -37,31 +31,15 @@ const Row kClients[] = {
      "(81)9888-7777", "Cantor lirico; tenor"},
 };
 
-bool haveTool(const std::string& name) { return std::system(("command -v " + name + " >/dev/null 2>&1").c_str()) == 0; }
-
-std::string run(const std::string& command) {
-    std::string output;
-    if (std::FILE* pipe = ::popen(command.c_str(), "r")) {
-        char buffer[4096];
-        std::size_t count;
-        while ((count = std::fread(buffer, 1, sizeof buffer, pipe)) > 0) output.append(buffer, count);
-        ::pclose(pipe);
-    }
-    return output;
-}
-
-std::vector<std::string> lines(const std::string& text) {
+std::vector<std::string> lines(const std::string& command) {
     std::vector<std::string> result;
-    std::istringstream in(text);
+    std::istringstream in(runCommand(command).output);
     for (std::string line; std::getline(in, line);) result.push_back(line);
     return result;
 }
 
 PacienteRecord recordOf(const Row& row) {
-    PacienteRecord r;
-    r.Codigo = std::stoi(row[0]);
-    setRecordText(r.Nome, row[1]);
-    r.Tipo = std::stoi(row[2]);
+    PacienteRecord r = makeClient(std::stoi(row[0]), row[1], std::stoi(row[2]));
     setRecordText(r.DataNasc, row[3]);
     setRecordText(r.Endereco, row[4]);
     setRecordText(r.Cidade, row[5]);
@@ -87,125 +65,88 @@ Row rowOf(const PacienteRecord& r) {
             std::string(recordText(r.Obs))};
 }
 
-std::filesystem::path writeOurTable(const TempDir& root) {
-    FakePrompt prompt;
-    CPacienteTable table(root.path(), prompt);
-    table.CreateTable();
-    for (const Row& row : kClients) EXPECT_EQ(table.InsertClient(recordOf(row)), 1);
-    EXPECT_TRUE(prompt.shown.empty());
-    return table.TablePath();
-}
+class Interop : public ClientTable {
+protected:
+    std::string writeOurTable() {
+        table.CreateTable();
+        for (const Row& row : kClients) EXPECT_EQ(table.InsertClient(recordOf(row)), 1);
+        EXPECT_TRUE(prompt.shown.empty());
+        return quoted(file());
+    }
+};
 
 }  // namespace
 
-TEST(Interop, GdalReadsOurTableWithTheElevenFieldsAndTheirValues) {
-    if (!haveTool("ogrinfo")) GTEST_SKIP() << "ogrinfo (gdal-bin) is not installed";
-    TempDir root;
-    const std::string path = writeOurTable(root).string();
-
-    std::vector<std::string> schema;
-    for (const std::string& line : lines(run("ogrinfo -ro -al -so '" + path + "'"))) {
-        if (line.find(": Integer (") != std::string::npos || line.find(": String (") != std::string::npos) {
-            schema.push_back(line);
-        }
+TEST_F(Interop, GdalReadsOurTableWithTheElevenFieldsAndTheirValues) {
+    if (!toolAvailable("ogrinfo")) GTEST_SKIP() << "ogrinfo (gdal-bin) is not installed";
+    const std::string path = writeOurTable();
+    // Each feature lists every field as "  NAME (Type) = value".
+    std::vector<std::string> fieldLines, expected;
+    for (const std::string& line : lines("ogrinfo -ro -al -q " + path)) {
+        if (line.rfind("  ", 0) == 0 && line.find(" = ") != std::string::npos) fieldLines.push_back(line);
     }
-    std::vector<std::string> expectedSchema;
-    for (const FieldShape& f : kFields) {
-        expectedSchema.push_back(std::string(f.name) + ": " + f.ogrType + " (" + std::to_string(f.length) + ".0)");
+    for (const Row& row : kClients) {
+        for (std::size_t f = 0; f < 11; ++f)
+            expected.push_back("  " + std::string(kFields[f].name) + " (" + kFields[f].ogrType + ") = " + row[f]);
     }
-    EXPECT_EQ(schema, expectedSchema);
-
-    // Feature lines read "  NAME (Type) = value".
-    std::vector<std::map<std::string, std::string>> features;
-    for (const std::string& line : lines(run("ogrinfo -ro -al -q '" + path + "'"))) {
-        if (line.rfind("OGRFeature(", 0) == 0) features.emplace_back();
-        const std::size_t equals = line.find(" = ");
-        const std::size_t open = line.find(" (");
-        if (features.empty() || line.rfind("  ", 0) != 0 || equals == std::string::npos || open > equals) continue;
-        features.back()[line.substr(2, open - 2)] = line.substr(equals + 3);
+    EXPECT_EQ(fieldLines, expected);
+    std::vector<std::string> widths, expectedWidths;
+    for (const std::string& line : lines("ogrinfo -ro -al -so " + path)) {
+        if (line.find(": Integer (") != std::string::npos || line.find(": String (") != std::string::npos)
+            widths.push_back(line);
     }
-    ASSERT_EQ(features.size(), std::size(kClients));
-    for (std::size_t i = 0; i < features.size(); ++i) {
-        for (std::size_t f = 0; f < 11; ++f) EXPECT_EQ(features[i][kFields[f].name], kClients[i][f]) << kFields[f].name;
-    }
+    for (const FieldShape& f : kFields)
+        expectedWidths.push_back(std::string(f.name) + ": " + f.ogrType + " (" + std::to_string(f.length) + ".0)");
+    EXPECT_EQ(widths, expectedWidths);
 }
 
-TEST(Interop, DbviewReadsOurTableWithTheElevenFieldsAndTheirValues) {
-    if (!haveTool("dbview")) GTEST_SKIP() << "dbview is not installed";
-    TempDir root;
-    const std::string path = writeOurTable(root).string();
-
-    std::vector<std::string> schema;
-    for (const std::string& line : lines(run("dbview -e -r -o '" + path + "'"))) {
+TEST_F(Interop, DbviewReadsOurTableWithTheElevenFieldsAndTheirValues) {
+    if (!toolAvailable("dbview")) GTEST_SKIP() << "dbview is not installed";
+    const std::string path = writeOurTable();
+    std::vector<std::string> schema, expectedSchema;
+    for (const std::string& line : lines("dbview -e -r -o " + path)) {
         std::istringstream words(line);
         std::string name, type, length, decimals;
-        if (words >> name >> type >> length >> decimals && name != "Field") {
+        if (words >> name >> type >> length >> decimals && name != "Field")
             schema.push_back(name + " " + type + " " + length + " " + decimals);
-        }
     }
-    std::vector<std::string> expectedSchema;
-    for (const FieldShape& f : kFields) {
+    for (const FieldShape& f : kFields)
         expectedSchema.push_back(std::string(f.name) + " " + f.type + " " + std::to_string(f.length) + " 0");
-    }
     EXPECT_EQ(schema, expectedSchema);
 
-    // Browse mode: one line per record, each field trimmed and followed by the delimiter.
-    std::vector<Row> rows;
-    for (const std::string& line : lines(run("dbview -b -t -r -d '|' '" + path + "'"))) {
-        Row row;
+    std::vector<Row> rows;  // browse mode: one line per record, each field trimmed and followed by the delimiter
+    for (const std::string& line : lines("dbview -b -t -r -d '|' " + path)) {
+        Row& row = rows.emplace_back();
         std::size_t start = 0;
-        for (std::string& value : row) {
-            const std::size_t end = line.find('|', start);
-            if (end == std::string::npos) break;
-            value = line.substr(start, end - start);
-            start = end + 1;
-        }
-        rows.push_back(row);
+        for (std::size_t end, f = 0; f < 11 && (end = line.find('|', start)) != std::string::npos; ++f, start = end + 1)
+            row[f] = line.substr(start, end - start);
     }
-    ASSERT_EQ(rows.size(), std::size(kClients));
-    for (std::size_t i = 0; i < rows.size(); ++i) EXPECT_EQ(rows[i], kClients[i]);
+    EXPECT_EQ(rows, std::vector<Row>(std::begin(kClients), std::end(kClients)));
 }
 
-TEST(Interop, ATableWrittenByGdalFromACsvLoadsWithTheSameValues) {
-    if (!haveTool("ogr2ogr")) GTEST_SKIP() << "ogr2ogr (gdal-bin) is not installed";
+TEST_F(Interop, ATableWrittenByGdalFromACsvLoadsWithTheSameValues) {
+    if (!toolAvailable("ogr2ogr")) GTEST_SKIP() << "ogr2ogr (gdal-bin) is not installed";
     TempDir work;
-    std::ofstream csv(work / "pacientes.csv");
-    std::ofstream types(work / "pacientes.csvt");
+    std::ofstream csv(work / "pacientes.csv"), types(work / "pacientes.csvt");
     for (std::size_t f = 0; f < 11; ++f) {
         csv << (f ? "," : "") << kFields[f].name;
         types << (f ? "," : "") << '"' << kFields[f].ogrType << '(' << kFields[f].length << ")\"";
     }
-    csv << "\n";
-    types << "\n";
     // The second client leaves its optional fields empty, as a client with no birth date or phone would.
     const Row rows[] = {kClients[0], {"7", "Carla Dias", "2", "", "", "Olinda", "", "", "", "", ""}};
     for (const Row& row : rows) {
-        for (std::size_t f = 0; f < 11; ++f) csv << (f ? "," : "") << '"' << row[f] << '"';
         csv << "\n";
+        for (std::size_t f = 0; f < 11; ++f) csv << (f ? "," : "") << '"' << row[f] << '"';
     }
+    csv << "\n";
     csv.close();
     types.close();
-    run("ogr2ogr -f 'ESRI Shapefile' '" + (work / "out").string() + "' '" + (work / "pacientes.csv").string() +
-        "' 2>&1");
+    runCommand("ogr2ogr -f 'ESRI Shapefile' " + quoted(work / "out") + " " + quoted(work / "pacientes.csv") + " 2>&1");
     const std::filesystem::path written = work / "out" / "pacientes.dbf";
     ASSERT_TRUE(std::filesystem::exists(written));
 
-    DbfOpenResult opened = DbfTable::open(written);
-    ASSERT_EQ(opened.status, DbfOpenStatus::Ok);
-    ASSERT_EQ(opened.table->fieldCount(), 11);
-    for (int f = 0; f < 11; ++f) {
-        const DbfField& field = opened.table->field(f);
-        EXPECT_EQ(field.name, kFields[f].name);
-        EXPECT_EQ(field.type, kFields[f].type) << field.name;
-        EXPECT_EQ(field.length, kFields[f].length) << field.name;
-    }
-
-    TempDir root;
-    std::filesystem::copy_file(written, root / "pacb.dbf");
-    FakePrompt prompt;
-    CPacienteTable table(root.path(), prompt);
-    ASSERT_EQ(table.LoadClients(), 2);
-    ASSERT_EQ(table.Count(), 2);
+    std::filesystem::copy_file(written, file());
+    ASSERT_EQ(table.LoadClients(), 2);  // eleven fields of the right types, or the table would be refused
     for (int i = 0; i < 2; ++i) EXPECT_EQ(rowOf(table.EntryAt(i)->record), rows[i]);
     EXPECT_EQ(table.EntryAt(0)->codigoText, "  12");  // GDAL justifies numbers to the right
     EXPECT_EQ(table.LoadClients("CODIGO = 7"), 2);

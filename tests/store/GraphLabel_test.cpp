@@ -46,62 +46,36 @@ TEST(ReadLabelToken, DoubleSemicolonEndsATokenAndASingleOneBelongsToIt) {
     EXPECT_EQ(ReadLabelToken(token, in), 0);
 }
 
-TEST(LabelFile, OneLabelIsWrittenAsItsTokensAndReadBack) {
+TEST(LabelFile, LabelsAreWrittenAsTokensWithoutTheFreedOnesAndReadBack) {
     TempDir dir;
     FakePrompt prompt;
     GraphLabelTable table;
-    table.add(label(0, 22050, 4410, 4470, "Vowel"));
+    table.add(label(0, 22050, 4410, 4470, "x;y"));
+    table.add(label(5, 6, 7, 8, "freed"));
+    table.add(label(0, 100, 30, 40, "end;"));
+    table.add(label(0, 100, 50, 60, "z"));
+    table[1].Free = 1;
     ASSERT_EQ(table.WriteLabelFile(dir / "wv001.wav", prompt), 1);
-    EXPECT_EQ(dir.read("wv001.mrk"), "1;;0;;22050;;4410;;4470;;Vowel;;");
+    const std::string written = "3;;0;;22050;;4410;;4470;;x;y;;0;;100;;30;;40;;end;;;0;;100;;50;;60;;z;;";
+    EXPECT_EQ(dir.read("wv001.mrk"), written);
 
     GraphLabelTable back;
     back.ReadLabelFile(dir / "WV001.WAV");  // any case of the name
-    ASSERT_EQ(back.count(), 1);
+    ASSERT_EQ(back.count(), 3);
     EXPECT_EQ(back[0], table[0]);
-    EXPECT_TRUE(prompt.shown.empty());
-}
-
-TEST(LabelFile, FreedLabelsAreLeftOutAndNoLabelLeavesAStaleFileAlone) {
-    TempDir dir;
-    FakePrompt prompt;
-    GraphLabelTable table;
-    table.add(label(1, 2, 3, 4, "a"));
-    table.add(label(5, 6, 7, 8, "b;c"));
-    table.add(label(9, 10, 11, 12, "d"));
-    table[1].Free = 1;
-    ASSERT_EQ(table.WriteLabelFile(dir / "qv002.wav", prompt), 1);
-    EXPECT_EQ(dir.read("qv002.mrk"), "2;;1;;2;;3;;4;;a;;9;;10;;11;;12;;d;;");
-
-    table[0].Free = 1;
-    table[2].Free = 1;
-    ASSERT_EQ(table.WriteLabelFile(dir / "qv002.wav", prompt), 1);
-    EXPECT_EQ(dir.read("qv002.mrk"), "2;;1;;2;;3;;4;;a;;9;;10;;11;;12;;d;;");  // untouched
-    EXPECT_EQ(readText("2;;1;;2;;3;;4;;a;;9;;10;;11;;12;;d;;").usedCount(), 2);
-
-    EXPECT_EQ(table.add(label(0, 0, 0, 0, "e")), 0);  // the first freed slot is reused
-    EXPECT_EQ(table.WriteLabelFile(dir / "gone/qv002.wav", prompt), 0);
-    EXPECT_EQ(prompt.shown, std::vector<std::string>{"Error saving File!"});
-
-    EXPECT_TRUE(DeleteLabelFile(dir / "QV002.WAV"));
-    EXPECT_FALSE(std::filesystem::exists(dir / "qv002.mrk"));
-}
-
-TEST(LabelFile, SemicolonsInTextsSurviveExceptAtTheEnd) {
-    GraphLabelTable table;
-    table.add(label(0, 100, 10, 20, "x;y"));
-    table.add(label(0, 100, 30, 40, "end;"));
-    table.add(label(0, 100, 50, 60, "z"));
-    TempDir dir;
-    FakePrompt prompt;
-    table.WriteLabelFile(dir / "a.wav", prompt);
-    EXPECT_EQ(dir.read("a.mrk"), "3;;0;;100;;10;;20;;x;y;;0;;100;;30;;40;;end;;;0;;100;;50;;60;;z;;");
-    GraphLabelTable back;
-    back.ReadLabelFile(dir / "a.wav");
-    EXPECT_EQ(back[0].Text, "x;y");
-    EXPECT_EQ(back[1].Text, "end");  // the third semicolon begins the next token: ";0" reads as 0
+    EXPECT_EQ(back[1].Text, "end");  // a semicolon at the end of a text begins the next token: ";0" reads as 0
     EXPECT_EQ(back[2].ViewFirst, 0);
-    EXPECT_EQ(back[2].TextFirst, 50);
-    EXPECT_EQ(back[2].Text, "z");
+    EXPECT_EQ(back[2], table[3]);
+
+    for (int i : {0, 2, 3}) table[i].Free = 1;
+    ASSERT_EQ(table.WriteLabelFile(dir / "wv001.wav", prompt), 1);
+    EXPECT_EQ(dir.read("wv001.mrk"), written);        // no label left: the old file stays
+    EXPECT_EQ(table.add(label(0, 0, 0, 0, "e")), 0);  // the first freed slot is reused
+    EXPECT_TRUE(prompt.shown.empty());
+    EXPECT_EQ(table.WriteLabelFile(dir / "gone/wv001.wav", prompt), 0);
+    EXPECT_EQ(prompt.shown, std::vector<std::string>{"Error saving File!"});
+    EXPECT_TRUE(DeleteLabelFile(dir / "WV001.WAV"));
+    EXPECT_FALSE(std::filesystem::exists(dir / "wv001.mrk"));
 }
 
 TEST(LabelFile, ShortOrOverfullFilesNeverOverrunTheTable) {

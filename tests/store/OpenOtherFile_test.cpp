@@ -27,9 +27,8 @@ TEST(OpenOtherFile, RateIsTestedFirstThenTheWidth) {
         std::uint16_t bits;
         std::string message;  // empty: opens
     };
-    const std::vector<Row> rows = {{44100, 16, ""},   {22050, 16, ""},    {11025, 16, ""},
-                                   {8000, 16, kRate}, {48000, 16, kRate}, {22051, 16, kRate},
-                                   {8000, 8, kRate},  {22050, 8, kBits},  {44100, 24, kBits}};
+    const std::vector<Row> rows = {{44100, 16, ""},    {22050, 16, ""},  {11025, 16, ""},
+                                   {22051, 16, kRate}, {8000, 8, kRate}, {22050, 8, kBits}};
     TempDir dir;
     for (const Row& row : rows) {
         FakePrompt prompt;
@@ -85,27 +84,16 @@ TEST(OpenOtherFile, StereoIsFoldedAsChosenAndMarked) {
     EXPECT_FALSE(recording.hasSamples());
 }
 
-TEST(OpenOtherFile, AnUnreadableFileShowsNothingAndLeavesTheRecordingAlone) {
+TEST(OpenOtherFile, AnUnreadableFileShowsNothingAndAClientFileLoadsAsItStands) {
     TempDir dir;
     FakePrompt prompt;
-    dir.write("good.wav", simpleWave(1, 44100, pcm16({1, 2})));
-    dir.write("bad.wav", "RIFF....WAVEjunk");
-    LoadedRecording recording;
-    ASSERT_EQ(recording.LoadSamples(dir / "good.wav"), 1);
-    EXPECT_EQ(OpenOtherFile(recording, dir / "bad.wav", choose(StereoChoice::Mix), prompt).result,
-              OtherFileResult::Unreadable);
-    EXPECT_TRUE(prompt.shown.empty());
-    EXPECT_EQ(recording.SampleCount(), 2u);
-}
-
-TEST(LoadSamples, AClientFolderFileIsTakenAsItStands) {
-    TempDir dir;
     dir.write("PAC001/WV001.WAV", simpleWave(2, 48000, pcm16({1, 2, 3, 4}), 8));
+    dir.write("bad.wav", "RIFF....WAVEjunk");
     LoadedRecording recording;
     ASSERT_EQ(recording.LoadSamples(dir / "pac001/wv001.wav"), 1);
     EXPECT_EQ(recording.SampleCount(), 4u);  // stereo stays interleaved: twice the apparent duration
-    EXPECT_EQ(recording.format()->nChannels, 2);
-    dir.write("empty.wav", simpleWave(1, 22050, ""));
-    ASSERT_EQ(recording.LoadSamples(dir / "empty.wav"), 1);
-    EXPECT_FALSE(recording.hasSamples());  // the view answers this with "Error Reading File"
+    EXPECT_EQ(OpenOtherFile(recording, dir / "bad.wav", choose(StereoChoice::Mix), prompt).result,
+              OtherFileResult::Unreadable);
+    EXPECT_TRUE(prompt.shown.empty());
+    EXPECT_EQ(recording.SampleCount(), 4u);
 }

@@ -1,13 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <set>
 
 #include "FakePrompt.h"
+#include "RunCommand.h"
 #include "TempDir.h"
 #include "store/RecordingDeletion.h"
 
@@ -15,38 +11,12 @@ namespace {
 
 std::set<std::string> filesIn(const std::filesystem::path& folder) {
     std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        names.insert(entry.path().filename().string());
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) names.insert(entry.path().filename());
     return names;
 }
 
-// Makes a file impossible to delete, even for the superuser, while it lives (the file system's immutable flag).
-class UndeletableFile {
-public:
-    explicit UndeletableFile(const std::filesystem::path& path) : m_fd(::open(path.c_str(), O_RDONLY)) {
-        m_set = m_fd >= 0 && setImmutable(true);
-    }
-    ~UndeletableFile() {
-        if (m_set) setImmutable(false);
-        if (m_fd >= 0) ::close(m_fd);
-    }
-    bool active() const { return m_set; }
-
-private:
-    bool setImmutable(bool on) {
-        int flags = 0;
-        if (::ioctl(m_fd, FS_IOC_GETFLAGS, &flags) != 0) return false;
-        flags = on ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
-        return ::ioctl(m_fd, FS_IOC_SETFLAGS, &flags) == 0;
-    }
-    int m_fd;
-    bool m_set = false;
-};
-
-const std::vector<std::string_view> kAllSix = {".wav", ".ddt", ".mrk", ".txt", ".bkp", ".rtf"};
-
 void makeRecording(const TempDir& root, const std::string& stem) {
-    for (auto extension : kAllSix) root.write(stem + std::string(extension), "x");
+    for (const char* extension : {".wav", ".ddt", ".mrk", ".txt", ".bkp", ".rtf"}) root.write(stem + extension, "x");
 }
 
 }  // namespace
@@ -94,9 +64,11 @@ TEST(DeleteFromView, ASoundThatCannotBeDeletedIsReportedAndItsSideFilesGoAnyway)
     TempDir root;
     FakePrompt prompt;
     makeRecording(root, "pac003/wv004");
-    UndeletableFile stuck(root / "pac003/wv004.wav");
-    if (!stuck.active()) GTEST_SKIP() << "the file system cannot mark a file undeletable here";
-    EXPECT_FALSE(DeleteRecordingFilesFromView({root.path(), 3}, 4, root / "pac003/wv004.wav", prompt));
+    const std::string sound = quoted(root / "pac003/wv004.wav");  // immutable: not even the superuser deletes it
+    if (runCommand("chattr +i " + sound + " 2>/dev/null").exitCode != 0) GTEST_SKIP() << "no immutable files here";
+    const bool deleted = DeleteRecordingFilesFromView({root.path(), 3}, 4, root / "pac003/wv004.wav", prompt);
+    runCommand("chattr -i " + sound);
+    EXPECT_FALSE(deleted);
     EXPECT_EQ(prompt.shown, std::vector<std::string>{"Error deleting File!"});
     EXPECT_EQ(filesIn(root / "pac003"), (std::set<std::string>{"wv004.wav", "wv004.txt", "wv004.bkp", "wv004.rtf"}));
 }

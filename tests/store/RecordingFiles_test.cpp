@@ -28,34 +28,20 @@ TEST(RecordingPaths, StemFollowsTheRateAndTheCodeHasAtLeastThreeDigits) {
     EXPECT_EQ(ScratchRecordingPath(root), root / "grav.tmp");
 }
 
-TEST(RecordingNumbering, GapsAreNeverReusedAndAnyOfFourFilesTakesANumber) {
+TEST(RecordingNumbering, GapsAreNeverReusedSixteenFreeNumbersEndTheScanAndItStopsAt150) {
     TempDir root;
     FakePrompt prompt;
     const ClientFolder client{root.path(), 7};
     EXPECT_EQ(NextRecordingNumber(client, prompt), 1);  // no folder yet
-    root.touch({"pac007/wv001.wav", "pac007/wv002.wav", "pac007/wv009.wav", "pac007/wv010.ddt"});
-    EXPECT_EQ(NextRecordingNumber(client, prompt), 10);  // holes are not reused; a date file takes no number
-    root.touch({"pac007/qv010.bkp"});
-    EXPECT_EQ(NextRecordingNumber(client, prompt), 11);
-    root.touch({"pac007/WV011.WAV"});  // a folder copied from Windows
-    EXPECT_EQ(NextRecordingNumber(client, prompt), 12);
-    root.touch({"pac007/qv026.wav"});  // 14 free numbers (12..25) do not end the scan
+    root.touch({"pac007/wv001.wav", "pac007/wv002.wav", "pac007/wv009.wav", "pac007/wv010.ddt", "pac007/qv010.bkp"});
+    EXPECT_EQ(NextRecordingNumber(client, prompt), 11);    // holes are not reused; a date file takes no number
+    root.touch({"pac007/WV011.WAV", "pac007/qv026.wav"});  // copied from Windows; 14 free numbers (12..25)
     EXPECT_EQ(NextRecordingNumber(client, prompt), 27);
-    EXPECT_TRUE(prompt.shown.empty());
-}
+    root.touch({"pac008/wv017.wav"});
+    EXPECT_EQ(NextRecordingNumber({root.path(), 8}, prompt), 1);  // 1..16 free: 17 is never seen
+    root.touch({"pac008/wv016.wav"});
+    EXPECT_EQ(NextRecordingNumber({root.path(), 8}, prompt), 18);
 
-TEST(RecordingNumbering, SixteenFreeNumbersEndTheScan) {
-    TempDir root;
-    FakePrompt prompt;
-    root.touch({"pac007/wv017.wav"});
-    EXPECT_EQ(NextRecordingNumber({root.path(), 7}, prompt), 1);  // 1..16 free: 17 is never seen
-    root.touch({"pac007/wv016.wav"});
-    EXPECT_EQ(NextRecordingNumber({root.path(), 7}, prompt), 18);
-}
-
-TEST(RecordingNumbering, NumberingStopsAt150WithTheMessage) {
-    TempDir root;
-    FakePrompt prompt;
     for (int n = 1; n <= 149; n += 10) root.touch({"pac003/" + name("wv", n, "wav")});
     root.touch({"pac003/" + name("qv", 149, "bkp")});
     EXPECT_EQ(NextRecordingNumber({root.path(), 3}, prompt), 150);

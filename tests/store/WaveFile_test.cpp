@@ -48,51 +48,31 @@ struct ReaderCase {
 
 }  // namespace
 
-TEST(WaveWrite, WritesTheFixedHeaderAndLittleEndianSamples) {
+TEST(WaveWrite, WritesTheFixedPlainPcmHeaderAndLittleEndianSamples) {
     TempDir dir;
     FakePrompt prompt;
     const std::int16_t samples[] = {1, -2, 0x1234};
     ASSERT_EQ(writerAt(5).WaveWrite(dir / "a.wav", 6, samples, prompt), 1);
-    const std::string bytes = dir.read("a.wav");
     const unsigned char expected[] = {
         'R', 'I', 'F', 'F', 44,   0,    0, 0, 'W',  'A',  'V',  'E',  'f',  'm', 't', ' ', 18, 0, 0, 0,  //
         1,   0,   1,   0,   0x22, 0x56, 0, 0, 0x44, 0xAC, 0,    0,    2,    0,   16,  0,   0,  0,        //
         'd', 'a', 't', 'a', 6,    0,    0, 0, 1,    0,    0xFE, 0xFF, 0x34, 0x12};
-    ASSERT_EQ(bytes.size(), sizeof expected);
-    EXPECT_EQ(std::memcmp(bytes.data(), expected, sizeof expected), 0);
-    EXPECT_TRUE(prompt.shown.empty());
+    EXPECT_EQ(dir.read("a.wav"), std::string(std::begin(expected), std::end(expected)));
 
-    const WaveLoadResult loaded = WaveLoad(dir / "a.wav");
-    ASSERT_EQ(loaded.code, kWaveOk);
-    EXPECT_EQ(loaded.format, writerAt(5).format);
-    EXPECT_EQ(loaded.samples, std::vector<std::int16_t>(std::begin(samples), std::end(samples)));
-}
-
-TEST(WaveWrite, HeaderIsPlainPcmWhateverTheSourceRecordSaid) {
-    TempDir dir;
-    FakePrompt prompt;
     WaveWriter writer;  // as loaded from an extensible stereo file: tag 0xFFFE, 22 extra bytes, a wrong byte rate
     writer.format = {0xFFFE, 2, 44100, 12345, 4, 16, 22, std::vector<std::uint8_t>(22, 7)};
-    const std::int16_t samples[] = {5, 6, 7, 8};
-    ASSERT_EQ(writer.WaveWrite(dir / "s.wav", 7, samples, prompt), 1);  // the odd last byte is dropped
-    const std::string bytes = dir.read("s.wav");
-    EXPECT_EQ(bytes, riff(chunk("fmt ", fmtBody(1, 2, 44100, 16) + le16(0)) + chunk("data", pcm16({5, 6, 7}))));
+    ASSERT_EQ(writer.WaveWrite(dir / "s.wav", 5, samples, prompt), 1);  // the odd last byte is dropped
+    EXPECT_EQ(dir.read("s.wav"),
+              riff(chunk("fmt ", fmtBody(1, 2, 44100, 16) + le16(0)) + chunk("data", pcm16({1, -2}))));
+    EXPECT_TRUE(prompt.shown.empty());
 }
 
 TEST(WaveWrite, SetRecordFormatFollowsTheTableOfTenFormats) {
     const std::uint32_t rates[] = {8000, 8000, 11025, 11025, 22050, 22050, 44100, 44100, 50000, 50000};
     for (int index = 0; index < 10; ++index) {
-        const WaveFormat f = writerAt(index).format;
-        const std::uint16_t bytesPerSample = index % 2 == 0 ? 1 : 2;
-        EXPECT_EQ(f, (WaveFormat{1,
-                                 1,
-                                 rates[index],
-                                 rates[index] * bytesPerSample,
-                                 bytesPerSample,
-                                 static_cast<std::uint16_t>(8 * bytesPerSample),
-                                 0,
-                                 {}}))
-            << "index " << index;
+        const std::uint16_t width = index % 2 == 0 ? 1 : 2;
+        const WaveFormat expected{1, 1, rates[index], rates[index] * width, width, std::uint16_t(8 * width), 0, {}};
+        EXPECT_EQ(writerAt(index).format, expected) << "index " << index;
     }
 }
 
@@ -117,7 +97,7 @@ TEST(WaveWrite, RoundTripKeepsEverySampleAtTheProgramsRates) {
     for (auto& s : samples) s = static_cast<std::int16_t>(random());
     samples[0] = -32768;
     samples[1] = 32767;
-    for (int index : {3, 5, 7}) {
+    for (int index : {3, 7}) {
         WaveWriter writer = writerAt(index);
         ASSERT_EQ(
             writer.WaveWrite(dir / "r.wav", static_cast<std::uint32_t>(samples.size() * 2), samples.data(), prompt), 1);
@@ -165,9 +145,7 @@ TEST(WaveLoad, ResultCodesFollowTheShapeOfTheFile) {
         const WaveLoadResult loaded = WaveLoad(dir / "case.wav");
         EXPECT_EQ(loaded.code, c.code) << c.what;
         EXPECT_EQ(loaded.samples.size(), c.values) << c.what;
-        if (c.code != kWaveOk) {
-            EXPECT_EQ(loaded.format, WaveFormat{}) << c.what;
-        }
+        EXPECT_TRUE(c.code == kWaveOk || loaded.format == WaveFormat{}) << c.what;
     }
     EXPECT_EQ(WaveLoad(dir / "absent.wav").code, kWaveCannotOpen);
     EXPECT_EQ(WaveLoad(dir.path()).code, kWaveCannotOpen);
