@@ -46,8 +46,7 @@ TEST(RealFft, BinsMatchThePlainTransformAtEveryLengthUsed) {
 
 TEST(RealFft, IsUnnormalisedAndReusableFrameAfterFrame) {
     RealFft fft(512);
-    for (int round = 0; round < 2; ++round) {
-        const float level = round == 0 ? 1.0f : 3.0f;
+    for (const float level : {1.0f, 3.0f}) {
         for (float& v : fft.input()) v = level;
         const auto bins = fft.transform();
         EXPECT_FLOAT_EQ(bins[0].real(), 512.0f * level);  // the sum of the frame, not its mean
@@ -56,9 +55,6 @@ TEST(RealFft, IsUnnormalisedAndReusableFrameAfterFrame) {
 }
 
 TEST(RealFft, AcceptsOnlyPowersOfTwo) {
-    EXPECT_TRUE(RealFft::isValidSize(2));
-    EXPECT_TRUE(RealFft::isValidSize(65536));
-    EXPECT_FALSE(RealFft::isValidSize(1));
-    EXPECT_FALSE(RealFft::isValidSize(1000));
-    EXPECT_FALSE(RealFft::isValidSize(131072));
+    for (int size : {2, 65536}) EXPECT_TRUE(RealFft::isValidSize(size)) << size;
+    for (int size : {1, 1000, 131072}) EXPECT_FALSE(RealFft::isValidSize(size)) << size;
 }

@@ -23,22 +23,19 @@ std::vector<Mapping> rowsOf(const MappingTable& table) {
 TEST(BuildCandidates, EnumeratesTheWaysWorkedByHand) {
     // 300 Hz fits F1 only; 1200 Hz fits F1, F2 and F3; 2600 Hz fits F2 to F5. When the poles run out below a
     // slot, the search goes on from the pole of the nearest filled slot, which can place it a second time.
-    MappingTable table;
-    const std::vector<float> freqs{300.0f, 1200.0f, 2600.0f};
-    EXPECT_EQ(buildCandidates(3, freqs, 5, kDefaultSlots, table), 3);
-    const std::vector<Mapping> expected{{0, 1, 2, -1, 2}, {0, 2, -1, 2, -1}, {1, 2, -1, 2, -1}};
-    EXPECT_EQ(rowsOf(table), expected);
-}
-
-TEST(BuildCandidates, APoleAlone) {
-    MappingTable table;
-    EXPECT_EQ(buildCandidates(1, std::vector<float>{300.0f}, 5, kDefaultSlots, table), 1);
-    EXPECT_EQ(table.rows[0], (Mapping{0, -1, -1, -1, -1}));
     // A pole of exactly 1500 Hz fits both F1 and F2 (bounds included): with 300 Hz below it, it takes F2 in
     // the first row and F1 in the second.
-    EXPECT_EQ(buildCandidates(2, std::vector<float>{300.0f, 1500.0f}, 5, kDefaultSlots, table), 2);
-    const std::vector<Mapping> expected{{0, 1, -1, -1, -1}, {1, -1, 1, -1, -1}};
-    EXPECT_EQ(rowsOf(table), expected);
+    const std::pair<std::vector<float>, std::vector<Mapping>> rows[] = {
+        {{300.0f, 1200.0f, 2600.0f}, {{0, 1, 2, -1, 2}, {0, 2, -1, 2, -1}, {1, 2, -1, 2, -1}}},
+        {{300.0f}, {{0, -1, -1, -1, -1}}},
+        {{300.0f, 1500.0f}, {{0, 1, -1, -1, -1}, {1, -1, 1, -1, -1}}},
+    };
+    for (const auto& [freqs, expected] : rows) {
+        MappingTable table;
+        EXPECT_EQ(buildCandidates(static_cast<int>(freqs.size()), freqs, 5, kDefaultSlots, table),
+                  static_cast<int>(expected.size()));
+        EXPECT_EQ(rowsOf(table), expected) << freqs.back();
+    }
 }
 
 TEST(BuildCandidates, TheEnumerationStopsAtTheTableSize) {

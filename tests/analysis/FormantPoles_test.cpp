@@ -2,30 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <complex>
 #include <numbers>
 #include <vector>
 
+#include "AnalysisTestSupport.h"
+
 namespace {
 
 using Complex = std::complex<double>;
-
-// The prediction polynomial 1 + a1 x + ... whose reciprocal roots are the given poles of the z plane.
-std::vector<double> polynomialOfPoles(const std::vector<Complex>& poles) {
-    std::vector<Complex> c{1.0};
-    for (const Complex& z : poles) {  // multiply by (1 - z x)
-        std::vector<Complex> next(c.size() + 1, 0.0);
-        for (std::size_t i = 0; i < c.size(); ++i) {
-            next[i] += c[i];
-            next[i + 1] -= z * c[i];
-        }
-        c = next;
-    }
-    std::vector<double> a;
-    for (const Complex& v : c) a.push_back(v.real());
-    return a;
-}
 
 // A resonance of `hz` and `bandwidth` Hz at 10 kHz, as a conjugate pair of poles.
 void addResonance(std::vector<Complex>& poles, double hz, double bandwidth) {
@@ -43,8 +30,9 @@ TEST(PolesToFormants, FrequenciesAndBandwidthsComeBackRisingWithUnusableRootsBeh
     addResonance(poles, 500.0, 60.0);
     poles.push_back(0.6);  // a real pole at 0 Hz: not a formant
     addResonance(poles, 1500.0, 100.0);
-    poles.push_back(-0.5);  // a real pole at the Nyquist frequency: not a formant either
-    const std::vector<double> a = polynomialOfPoles(poles);
+    poles.push_back(-0.5);                     // a real pole at the Nyquist frequency: not a formant either
+    std::vector<double> a = fromRoots(poles);  // reversed: the prediction polynomial 1 + a1 x + ...
+    std::reverse(a.begin(), a.end());
     const int order = static_cast<int>(poles.size());
 
     RootEstimates estimates;
@@ -62,18 +50,6 @@ TEST(PolesToFormants, FrequenciesAndBandwidthsComeBackRisingWithUnusableRootsBeh
     }
 }
 
-TEST(PolesToFormants, FailedRootsGiveNoPoles) {
-    std::vector<double> one(13, 0.0);
-    one[0] = 1.0;
-    RootEstimates estimates;
-    ClassicRand random;
-    std::vector<double> freq(12);
-    std::vector<double> band(12);
-    int nForm = 7;
-    EXPECT_EQ(polesToFormants(12, 10000.0, one, nForm, freq, band, 1, estimates, random), 0);
-    EXPECT_EQ(nForm, 0);
-}
-
 TEST(PoleLevel, IsRmsOverThePolynomialAtThePoleFrequency) {
     PoleFrame frame;
     frame.rms = 10.0f;
@@ -82,16 +58,4 @@ TEST(PoleLevel, IsRmsOverThePolynomialAtThePoleFrequency) {
     EXPECT_NEAR(poleLevel(frame, 12, 1e-4, 0.0), 20.0 * std::log10(10.0 / 0.5), 1e-12);
     EXPECT_NEAR(poleLevel(frame, 12, 1e-4, 5000.0), 20.0 * std::log10(10.0 / 1.5), 1e-12);
     EXPECT_NEAR(poleLevel(frame, 12, 1e-4, 2500.0), 20.0 * std::log10(10.0 / std::sqrt(1.25)), 1e-12);
-}
-
-TEST(RootEstimates, SeedsLieOnTheUpperHalfOfACircleOfRadiusTwo) {
-    RootEstimates estimates;
-    seedRootEstimates(estimates, 12);
-    for (int i = 0; i <= 12; ++i) {
-        EXPECT_NEAR(std::hypot(estimates.real[i], estimates.imag[i]), 2.0, 1e-12);
-        EXPECT_GT(estimates.imag[i], 0.0);
-    }
-    // Position i at angle (12 - i + 0.5) pi / 13: the top position lies nearest the positive real axis.
-    EXPECT_NEAR(std::atan2(estimates.imag[12], estimates.real[12]), 0.5 * std::numbers::pi / 13, 1e-12);
-    EXPECT_NEAR(std::atan2(estimates.imag[0], estimates.real[0]), 12.5 * std::numbers::pi / 13, 1e-12);
 }

@@ -63,12 +63,9 @@ TEST(BuildPalette, RangeZeroIsAllBackgroundAndRangeOneHasOneEntry) {
 }
 
 TEST(PaletteEntry, LevelsSaturateAt100AndSignedNegativesShowAsBackground) {
-    EXPECT_EQ(paletteEntryForLevel(0), kBackgroundEntry);
-    EXPECT_EQ(paletteEntryForLevel(1), 99);
-    EXPECT_EQ(paletteEntryForLevel(30), 70);
-    EXPECT_EQ(paletteEntryForLevel(100), 0);
-    EXPECT_EQ(paletteEntryForLevel(101), 0);
-    EXPECT_EQ(paletteEntryForLevel(127), 0);
-    EXPECT_EQ(paletteEntryForLevel(128), kBackgroundEntry);  // -128 as a signed byte
-    EXPECT_EQ(paletteEntryForLevel(255), kBackgroundEntry);
+    // 128 and 255 are -128 and -1 as signed bytes.
+    const std::pair<int, int> rows[] = {
+        {0, kBackgroundEntry},  {1, 99}, {30, 70}, {100, 0}, {101, 0}, {127, 0}, {128, kBackgroundEntry},
+        {255, kBackgroundEntry}};
+    for (const auto& [level, entry] : rows) EXPECT_EQ(paletteEntryForLevel(level), entry) << level;
 }

@@ -3,31 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <complex>
-#include <random>
 #include <vector>
 
+#include "AnalysisTestSupport.h"
 #include "analysis/FormantPoles.h"
 
 namespace {
 
 using Complex = std::complex<double>;
-
-// The coefficients, constant term first, of the monic polynomial with these roots.
-std::vector<double> fromRoots(const std::vector<Complex>& roots) {
-    std::vector<Complex> c{1.0};
-    for (const Complex& r : roots) {
-        std::vector<Complex> next(c.size() + 1, 0.0);
-        for (std::size_t i = 0; i < c.size(); ++i) {
-            next[i + 1] += c[i];
-            next[i] -= r * c[i];
-        }
-        c = next;
-    }
-    std::vector<double> a;
-    for (const Complex& v : c) a.push_back(v.real());
-    return a;
-}
 
 std::vector<Complex> sorted(std::vector<Complex> v) {
     std::sort(v.begin(), v.end(),
@@ -40,14 +25,10 @@ std::vector<Complex> sorted(std::vector<Complex> v) {
 TEST(QuadraticRoots, RealComplexAndStraightLineCases) {
     double r1, i1, r2, i2;
     ASSERT_EQ(quadraticRoots(1.0, -3.0, 2.0, r1, i1, r2, i2), 1);
-    EXPECT_EQ(std::max(r1, r2), 2.0);
-    EXPECT_EQ(std::min(r1, r2), 1.0);
+    EXPECT_EQ((std::array{std::min(r1, r2), std::max(r1, r2)}), (std::array{1.0, 2.0}));
     EXPECT_EQ(i1, 0.0);
     ASSERT_EQ(quadraticRoots(1.0, 0.0, 1.0, r1, i1, r2, i2), 1);
-    EXPECT_EQ(r1, 0.0);
-    EXPECT_EQ(i1, 1.0);
-    EXPECT_EQ(r2, 0.0);
-    EXPECT_EQ(i2, -1.0);
+    EXPECT_EQ((std::array{r1, i1, r2, i2}), (std::array{0.0, 1.0, 0.0, -1.0}));
     ASSERT_EQ(quadraticRoots(0.0, 2.0, -4.0, r1, i1, r2, i2), 1);
     EXPECT_EQ(r1, 2.0);
     EXPECT_EQ(quadraticRoots(0.0, 0.0, 5.0, r1, i1, r2, i2), 0);
@@ -89,30 +70,4 @@ TEST(PolyRoots, FirstOrderAndHopelessCases) {
 TEST(ClassicRand, GivesTheSmallRangeSequenceFromSeedOne) {
     ClassicRand random;
     for (int expected : {41, 18467, 6334, 26500, 19169, 15724}) EXPECT_EQ(random.next(), expected);
-}
-
-TEST(PolyRoots, ASearchStoppedAtARestartGoesOnExactlyAsAnUnbrokenOne) {
-    // Polynomials shaped like those of speech frames, until one needs a restart.
-    std::mt19937 source(11);
-    std::uniform_real_distribution<double> coefficient(-1.5, 1.5);
-    int resumed = 0;
-    for (int attempt = 0; attempt < 2000 && resumed < 3; ++attempt) {
-        std::vector<double> a(13);
-        a[0] = 1.0;
-        for (int i = 1; i <= 12; ++i) a[i] = coefficient(source);
-        RootEstimates stopped;
-        seedRootEstimates(stopped, 12);
-        RootEstimates whole = stopped;
-        RootSearchState state = startRootSearch(a, 12);
-        if (continueRootSearch(state, stopped.real, stopped.imag, nullptr) != RootSearch::NeedsRestart) continue;
-        ++resumed;
-        ClassicRand first;
-        ClassicRand second;
-        const RootSearch finished = continueRootSearch(state, stopped.real, stopped.imag, &first);
-        EXPECT_EQ(finished == RootSearch::Found, polyRoots(a, 12, whole.real, whole.imag, second));
-        EXPECT_EQ(stopped.real, whole.real);
-        EXPECT_EQ(stopped.imag, whole.imag);
-        EXPECT_EQ(first.next(), second.next());  // the same number of restarts drawn
-    }
-    EXPECT_EQ(resumed, 3);
 }

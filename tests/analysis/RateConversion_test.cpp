@@ -101,23 +101,20 @@ Converted convert(const std::vector<std::int16_t>& input, int from, int to, Fake
 }  // namespace
 
 TEST(ConvertSampleRate, RefusalsTellTheUserOnlyWhereTheyShouldAndWriteNothing) {
-    const std::vector<std::int16_t> input(1000, 100);
-    FakePrompt prompt;
-    Converted c = convert(input, 44100, 44101, prompt);
-    EXPECT_EQ(c.result, 0);
-    EXPECT_FALSE(c.written);
-    EXPECT_EQ(prompt.shown, (std::vector<std::string>{"No simple factors for ratio"}));
-
-    prompt.shown.clear();
-    c = convert(input, 43000, 44100, prompt);  // 441/430 holds the prime 43
-    EXPECT_EQ(c.result, 0);
-    EXPECT_FALSE(c.written);
-    EXPECT_TRUE(prompt.shown.empty());
-
-    c = convert(input, 22050, 22050, prompt);  // the caller must copy such a file
-    EXPECT_EQ(c.result, 0);
-    EXPECT_FALSE(c.written);
-    EXPECT_EQ(prompt.shown, (std::vector<std::string>{"Filter design too difficult! "}));
+    // 441/430 holds the prime 43, which is silently refused; a file of the same rate must be copied by the caller.
+    const struct {
+        int from, to;
+        std::vector<std::string> shown;
+    } rows[] = {{44100, 44101, {"No simple factors for ratio"}},
+                {43000, 44100, {}},
+                {22050, 22050, {"Filter design too difficult! "}}};
+    for (const auto& r : rows) {
+        FakePrompt prompt;
+        const Converted c = convert(std::vector<std::int16_t>(1000, 100), r.from, r.to, prompt);
+        EXPECT_EQ(c.result, 0) << r.from;
+        EXPECT_FALSE(c.written) << r.from;
+        EXPECT_EQ(prompt.shown, r.shown) << r.from;
+    }
 }
 
 TEST(ConvertSampleRate, GivesNumTimesCountOverDenValuesForAnyLength) {

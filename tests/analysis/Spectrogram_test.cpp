@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <numbers>
-#include <random>
 #include <vector>
+
+#include "AnalysisTestSupport.h"
 
 namespace {
 
@@ -27,21 +27,6 @@ public:
         blank.push_back(true);
     }
 };
-
-std::vector<std::int16_t> sine(double hz, int rate, int n, double amplitude) {
-    std::vector<std::int16_t> s(static_cast<std::size_t>(n));
-    for (int i = 0; i < n; ++i)
-        s[i] = static_cast<std::int16_t>(amplitude * std::sin(2.0 * std::numbers::pi * hz * i / rate));
-    return s;
-}
-
-std::vector<std::int16_t> noise(int n, unsigned seed) {
-    std::mt19937 random(seed);
-    std::uniform_int_distribution<int> sample(-20000, 20000);
-    std::vector<std::int16_t> s(static_cast<std::size_t>(n));
-    for (auto& v : s) v = static_cast<std::int16_t>(sample(random));
-    return s;
-}
 
 }  // namespace
 
@@ -79,13 +64,8 @@ TEST(Spectrogram, SilenceGivesLevelZeroEverywhere) {
     Spectrogram s;
     s.setMaxFrequency(5512);
     RecordingPainter painter;
-    const std::vector<std::int16_t> silence(11025, 0);
-    s.computeColumns(50, 300, silence, 0.0, 1.0, 11025, painter);
-    ASSERT_EQ(painter.columns.size(), 50u);
-    for (const auto& column : painter.columns) {
-        ASSERT_EQ(column.size(), 300u);
-        for (std::uint8_t level : column) EXPECT_EQ(level, 0);
-    }
+    s.computeColumns(50, 300, std::vector<std::int16_t>(11025, 0), 0.0, 1.0, 11025, painter);
+    EXPECT_EQ(painter.columns, (std::vector<std::vector<std::uint8_t>>(50, std::vector<std::uint8_t>(300, 0))));
 }
 
 TEST(Spectrogram, A1000HzSinePeaksInTheRowOf1000Hz) {
@@ -96,7 +76,7 @@ TEST(Spectrogram, A1000HzSinePeaksInTheRowOf1000Hz) {
         s.setMaxFrequency(5512);
         const int rows = 200;
         RecordingPainter painter;
-        const auto signal = sine(1000.0, rate, rate, 10000.0);
+        const auto signal = sineWave(1000.0, rate, rate, 10000.0);
         s.computeColumns(20, rows, signal, 0.0, 0.5, rate, painter);
         const std::vector<std::uint8_t>& column = painter.columns[10];
         const int peakRow = static_cast<int>(std::max_element(column.begin(), column.end()) - column.begin());
@@ -111,7 +91,7 @@ TEST(Spectrogram, A1000HzSinePeaksInTheRowOf1000Hz) {
 TEST(Spectrogram, RowsNoBinReachesAreZeroInAPictureAndRepeatTheRowBelowLive) {
     // At a ratio of 1, 1000 rows share the 511 bins of a 1024-point transform: about every other row gets none.
     const int rows = 1000;
-    const auto signal = noise(1024, 3);
+    const auto signal = noise(1024, 20000, 3);
     Spectrogram live;
     live.setSampleRate(11025);
     live.setMaxFrequency(5512);
@@ -145,7 +125,7 @@ TEST(Spectrogram, ColumnsPastTheDataRepeatTheLastOneAndShortStretchesAreBlank) {
     Spectrogram s;
     s.setMaxFrequency(5512);
     s.setBandwidth(40);  // 441 samples
-    const auto signal = noise(2000, 7);
+    const auto signal = noise(2000, 20000, 7);
     RecordingPainter painter;
     // 100 columns over one second, 110.25 samples apart: column c ends its 441-sample window at
     // trunc(110.25 (c + 1)) - 219 + 441, within the 2000 samples up to column 15.
@@ -157,7 +137,7 @@ TEST(Spectrogram, ColumnsPastTheDataRepeatTheLastOneAndShortStretchesAreBlank) {
 
     // Shorter than the window: nothing fits, and every column shows zero levels (background).
     RecordingPainter shortPainter;
-    const auto shortSignal = noise(100, 8);
+    const auto shortSignal = noise(100, 20000, 8);
     s.computeColumns(10, 64, shortSignal, 0.0, 1.0, 11025, shortPainter);
     for (const auto& column : shortPainter.columns) EXPECT_EQ(column, std::vector<std::uint8_t>(64, 0));
 
@@ -185,10 +165,8 @@ TEST(Spectrogram, SampleRateKeepsTheRatioAndSetsTheLiveLength) {
 
 TEST(Spectrogram, PushedSamplesEnterAtTheEndOfTheRing) {
     Spectrogram s;  // ring of 1024
-    const std::vector<std::int16_t> first{1, 2, 3, 4, 5};
-    const std::vector<std::int16_t> second{6, 7};
-    s.pushSamples(first);
-    s.pushSamples(second);
+    s.pushSamples(std::vector<std::int16_t>{1, 2, 3, 4, 5});
+    s.pushSamples(std::vector<std::int16_t>{6, 7});
     const auto ring = s.ring();
     EXPECT_EQ(ring[1016], 0);
     for (int i = 0; i < 7; ++i) EXPECT_EQ(ring[1017 + i], i + 1);
@@ -201,7 +179,7 @@ TEST(Spectrogram, PushedSamplesEnterAtTheEndOfTheRing) {
 
 TEST(Spectrogram, DefaultStateWithTheRatioBelowOneStaysWellFormed) {
     Spectrogram s;  // ratio 0.5: the rows reach past the bins of the transform
-    s.pushSamples(noise(1024, 9));
+    s.pushSamples(noise(1024, 20000, 9));
     const auto column = s.computeLiveColumn(3000);
     EXPECT_EQ(column.size(), static_cast<std::size_t>(kMaxSpectrogramRows));
 }

@@ -13,17 +13,11 @@
 #include "f0/f0.h"
 
 // Collects what is printed on std::cerr while it lives.
-class CerrCapture {
-public:
-    CerrCapture() : m_old(std::cerr.rdbuf(m_buffer.rdbuf())) {}
-    ~CerrCapture() { std::cerr.rdbuf(m_old); }
-    CerrCapture(const CerrCapture&) = delete;
-    CerrCapture& operator=(const CerrCapture&) = delete;
-    std::string text() const { return m_buffer.str(); }
-
-private:
-    std::ostringstream m_buffer;
-    std::streambuf* m_old;
+struct CerrCapture {
+    std::ostringstream buffer;
+    std::streambuf* old = std::cerr.rdbuf(buffer.rdbuf());
+    ~CerrCapture() { std::cerr.rdbuf(old); }
+    std::string text() const { return buffer.str(); }
 };
 
 // A tracker with the parameters given as "name=value" texts, initialised at `rate`; null if f0Init refuses.

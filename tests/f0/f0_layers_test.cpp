@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "F0TestSupport.h"
@@ -72,28 +73,20 @@ TEST(F0Signals, SilenceAndNoiseAreVoiceless) {
     EXPECT_EQ(voiced, 0);
 }
 
-TEST(F0TrackBuffer, GivesOneValuePerFrameRepeatingTheLastAtTheEnd) {
-    // One second at 22050 Hz: 5 full buffers and a last one of 2450 samples yield 87 frames for 90 values.
+TEST(F0TrackBuffer, GivesOneValuePerFrameAndNeverReadsPastShortInput) {
+    // 700 samples give no frame; 3000 give a first call of a full buffer and no last call; 4200 give both.
+    for (int n : {1, 700, 3000, 3920, 4200, 4525}) {
+        const std::vector<float> values = track(sine(22050, 200, n / 22050.0 + 1e-9), 22050);
+        EXPECT_EQ(values.size(), static_cast<std::size_t>(n / 22050.0 * 90 + 0.5)) << n;
+        if (n <= 3920) {
+            EXPECT_EQ(std::count(values.begin(), values.end(), 0.0f), std::ssize(values)) << n;
+        }
+    }
+    // One second: 5 full buffers and a last one of 2450 samples yield 87 frames for 90 values.
     const std::vector<float> values = track(sine(22050, 180, 1.0), 22050);
     ASSERT_EQ(values.size(), 90u);
     EXPECT_GT(values[86], 0.0f);
     for (int i = 87; i < 90; ++i) EXPECT_EQ(values[i], values[86]);
-}
-
-TEST(F0TrackBuffer, ShortBuffersNeverReadPastTheirSamples) {
-    // 700 samples give no frame; 3000 give a first call of a full buffer and no last call; 4200 give both.
-    for (int n : {1, 700, 3000, 3920, 4200, 4525}) {
-        SCOPED_TRACE(n);
-        const std::vector<float> samples = sine(22050, 200, n / 22050.0 + 1e-9);
-        ASSERT_EQ(samples.size(), static_cast<std::size_t>(n));
-        std::vector<float> out;
-        int nOut = -1;
-        ASSERT_EQ(f0TrackBuffer(samples.data(), n, 22050, 60, 1400, 90, out, nOut), 1);
-        EXPECT_EQ(nOut, static_cast<int>(n / 22050.0 * 90 + 0.5));
-        if (n <= 3920) {
-            for (int i = 0; i < nOut; ++i) EXPECT_EQ(out[i], 0.0f);
-        }
-    }
 }
 
 TEST(F0TrackBuffer, SettingsWhoseWindowsDoNotFitAreRefused) {
@@ -108,15 +101,12 @@ TEST(F0TrackBuffer, SettingsWhoseWindowsDoNotFitAreRefused) {
 }
 
 TEST(F0Curve, ChunksAreTenSecondsWithALastOfTenToTwenty) {
-    const auto lengths = [](int seconds, int extra) {
-        std::vector<int> result;
-        for (const F0Chunk& c : f0CurveChunks(seconds * 1000 + extra, 1000)) result.push_back(c.length);
-        return result;
-    };
-    EXPECT_EQ(lengths(5, 0), (std::vector<int>{5000}));
-    EXPECT_EQ(lengths(19, 999), (std::vector<int>{19999}));
-    EXPECT_EQ(lengths(20, 0), (std::vector<int>{10000, 10000}));
-    EXPECT_EQ(lengths(35, 500), (std::vector<int>{10000, 10000, 15500}));
+    for (const auto& [n, expected] : std::vector<std::pair<int, std::vector<int>>>{
+             {5000, {5000}}, {19999, {19999}}, {20000, {10000, 10000}}, {35500, {10000, 10000, 15500}}}) {
+        std::vector<int> lengths;
+        for (const F0Chunk& c : f0CurveChunks(n, 1000)) lengths.push_back(c.length);
+        EXPECT_EQ(lengths, expected) << n;
+    }
     EXPECT_EQ(f0CurveChunks(35500, 1000).back().start, 20000);
 }
 

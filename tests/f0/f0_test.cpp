@@ -31,15 +31,9 @@ TEST(F0Init, DerivedSizesAtTheSystemSettingsMatchTheTable) {
         EXPECT_EQ(t->framesPerBuff, row.framesPerBuff);
         EXPECT_EQ(t->buffStep, row.buffStep);
         EXPECT_EQ(t->buffSize, row.buffSize);
+        // The layers pass 1/90 s through six decimals: at 11025 Hz 122.5 samples would round to 123.
+        EXPECT_EQ(f0CreateTracker(static_cast<int>(row.rate), 60, 1400, 90)->frameStep, row.frameStep);
     }
-}
-
-TEST(F0Init, TheLayersPassTheFrameStepThroughSixDecimals) {
-    // 1/90 s is 122.5 samples at 11025 Hz, which would round to 123; 0.011111 s gives the table's 122.
-    const auto t = f0CreateTracker(11025, 60, 1400, 90);
-    ASSERT_TRUE(t);
-    EXPECT_EQ(t->frameStep, 122);
-    EXPECT_EQ(f0CreateTracker(22050, 60, 1400, 90)->frameStep, 245);
 }
 
 TEST(F0Params, TextsAreParsedByExactNameAndStoredAsFloats) {
@@ -48,8 +42,6 @@ TEST(F0Params, TextsAreParsedByExactNameAndStoredAsFloats) {
     EXPECT_EQ(f0GetParam(t.get(), "min_f0"), 75.5f);
     EXPECT_EQ(f0SetParam(t.get(), "n_cands= 7.9junk"), 1);  // as atof reads it
     EXPECT_EQ(f0GetParam(t.get(), "n_cands"), 7.9f);
-    EXPECT_EQ(f0SetParam(t.get(), "frame_step=1e-2"), 1);
-    EXPECT_EQ(f0GetParam(t.get(), "frame_step"), 0.01f);
     EXPECT_EQ(f0SetParam(t.get(), "voice_bias=abc"), 1);
     EXPECT_EQ(f0GetParam(t.get(), "voice_bias"), 0.0f);
     EXPECT_EQ(f0SetParam(t.get(), "MIN_F0=10"), 0);   // names are case-sensitive
@@ -73,7 +65,7 @@ TEST(F0Params, EveryBrokenRuleIsReportedThenInitRefuses) {
               "F0: invalid/inconsistent parameters -- exiting.\n");
 }
 
-TEST(F0Params, RangeBoundariesOfTheF0Limits) {
+TEST(F0Params, F0LimitsAreTestedAtTheirBoundsAndTheFrameStepSnappedBeforeItsRange) {
     float pars[f0NumParams];
     for (int i = 0; i < f0NumParams; ++i) pars[i] = f0ParamDefaults[i].value;
     CerrCapture capture;
@@ -87,19 +79,13 @@ TEST(F0Params, RangeBoundariesOfTheF0Limits) {
     EXPECT_FALSE(f0CheckParams(pars, 20000));
     pars[kMaxF0] = 60.0f;  // and so does max_f0 = min_f0
     EXPECT_FALSE(f0CheckParams(pars, 20000));
-}
-
-TEST(F0Params, TheFrameStepIsSnappedToWholeSamplesBeforeItsRangeIsTested) {
-    CerrCapture capture;
-    float pars[f0NumParams];
-    for (int i = 0; i < f0NumParams; ++i) pars[i] = f0ParamDefaults[i].value;
+    pars[kMaxF0] = 1400.0f;
     pars[kFrameStep] = 0.7f / 8192;  // 0.7 samples: below 1/sampFreq until snapped to one sample
     EXPECT_TRUE(f0CheckParams(pars, 8192));
     EXPECT_EQ(pars[kFrameStep], 1.0f / 8192);
     pars[kFrameStep] = 0.01006f;  // 80.48 samples at 8000 Hz become 80
     EXPECT_TRUE(f0CheckParams(pars, 8000));
     EXPECT_EQ(pars[kFrameStep], static_cast<float>(80 / 8000.0));
-    EXPECT_TRUE(capture.text().empty());
 }
 
 TEST(F0Init, AnLpcOrderAbove50IsLimitedWithAMessage) {
@@ -118,9 +104,6 @@ TEST(F0Init, RingAndConvergenceSizesFollowTheFloatStep) {
     EXPECT_EQ(t->frameAlloc, 134);
     EXPECT_EQ(t->minConvFrames, 44);
     EXPECT_EQ(t->maxConvFrames, 89);
-    EXPECT_EQ(static_cast<int>(t->frames.size()), t->frameAlloc);
-    EXPECT_EQ(t->curFrm->next, t->head);
-    EXPECT_EQ(t->head, t->frames.front().get());
 }
 
 using F0DeathTest = ::testing::Test;
@@ -140,15 +123,6 @@ TEST_F(F0DeathTest, PreconditionsEndTheProgramNamingTheExpression) {
     EXPECT_DEATH(f0GetOutput(t.get(), t->nOutput), "0 <= idx && idx < f0Obj->nOutput");
 }
 
-TEST(F0Process, AShortFirstBufferIsTheLastAndReleasesEveryFrame) {
-    auto t = systemTracker(22050);
-    const std::vector<float> data = sine(22050, 150, 0.25);
-    const int n = t->buffSize - 1;
-    ASSERT_EQ(f0Process(t.get(), data.data(), n), 1);
-    EXPECT_EQ(f0NumOutput(t.get()), (n - t->tailSize) / t->frameStep);
-    EXPECT_EQ(t->nPending, 0);
-}
-
 TEST(F0Process, ALastBufferWithoutFramesStillReleasesWhatIsPending) {
     auto t = systemTracker(22050);
     const std::vector<float> data = sine(22050, 150, 0.5);
@@ -160,12 +134,14 @@ TEST(F0Process, ALastBufferWithoutFramesStillReleasesWhatIsPending) {
     EXPECT_NEAR(f0GetOutput(t.get(), 8).f0, 150.0f, 1.5f);
 }
 
-TEST(F0Process, RecordsComeOutOldestFirst) {
+TEST(F0Process, AShortFirstBufferIsTheLastAndReleasesEveryFrameOldestFirst) {
     auto t = systemTracker(22050);
-    std::vector<float> data = sine(22050, 200, 0.3);
+    std::vector<float> data = sine(22050, 200, 0.3);  // rising in level, so the records' order shows in their rms
     for (std::size_t i = 0; i < data.size(); ++i) data[i] = std::round(data[i] * static_cast<float>(i) / 6615.0f);
-    ASSERT_EQ(f0Process(t.get(), data.data(), t->buffSize - 1), 1);
-    ASSERT_GT(f0NumOutput(t.get()), 5);
+    const int n = t->buffSize - 1;
+    ASSERT_EQ(f0Process(t.get(), data.data(), n), 1);
+    EXPECT_EQ(f0NumOutput(t.get()), (n - t->tailSize) / t->frameStep);
+    EXPECT_EQ(t->nPending, 0);
     for (int i = 3; i < f0NumOutput(t.get()); ++i)
         EXPECT_GT(f0GetOutput(t.get(), i).rms, f0GetOutput(t.get(), i - 1).rms);
 }
@@ -284,21 +260,11 @@ TEST(F0PathSearch, PathsMeetingAtHeadReleaseOneFrameAndLateOnesAreForced) {
     F0Frame* last = meeting.add({{100, 5, 1}, {-1, 3, 1}});
     ASSERT_EQ(f0FindConverged(meeting.t.get(), last, 0, &conv, &path), 1);
     EXPECT_EQ(conv, meeting.t->head);
-    // A single candidate converges at once on the frame before the newest.
-    HandRing single;
-    single.t->minConvFrames = 1;
-    single.add({{-1, 0, 0}});
-    single.add({{-1, 0, 0}});
-    F0Frame* only = single.add({{-1, 0, 0}});
-    ASSERT_EQ(f0FindConverged(single.t.get(), only, 0, &conv, &path), 1);
-    EXPECT_EQ(conv, single.frames[1]);
 }
 
 TEST(F0PathSearch, RefineLagTakesTheParabolaVertexExceptAtTheEnds) {
     const float correl[] = {0.0f, 0.25f, 1.0f, 0.5f, 0.9f};
     // Lag 12 with firstLag 10: y0 0.25, y1 1, y2 0.5; the vertex lies (y0 - y2)/d = 0.1 above the lag.
-    const float d = (0.5f + 0.25f - 2 * 1.0f) * 2;
-    EXPECT_EQ(f0RefineLag(correl, 12, 10, 14), static_cast<float>(12 + 2.0 - (5 * 0.5f + 3 * 0.25f - 8 * 1.0f) / d));
     EXPECT_NEAR(f0RefineLag(correl, 12, 10, 14), 12.1, 1e-5);
     EXPECT_EQ(f0RefineLag(correl, 10, 10, 14), 10.0f);
     EXPECT_EQ(f0RefineLag(correl, 14, 10, 14), 14.0f);

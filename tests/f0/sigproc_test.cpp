@@ -28,7 +28,7 @@ TEST(Energy, TheFirstWindowTypeStaysForItsSize) {
     EXPECT_EQ(capture.text(), "Unknown window type (3)\nMemory error in Energy\n");
 }
 
-TEST(Lpc, SilenceGivesAFlatSpectrumAndUnitResidual) {
+TEST(Lpc, SilenceGivesAFlatSpectrumAndDurbinKeepsTheSystemsSigns) {
     const float zeros[40] = {};
     float r[BIGSORD + 1], k[BIGSORD + 1], a[BIGSORD + 1], err = -1.0f;
     autoc(zeros, 40, 10, r);
@@ -40,12 +40,8 @@ TEST(Lpc, SilenceGivesAFlatSpectrumAndUnitResidual) {
         EXPECT_EQ(a[i], 0.0f);
     }
     EXPECT_EQ(err, 1.0f);
-}
-
-TEST(Lpc, DurbinSolvesAFirstOrderPredictorWithTheSystemsSigns) {
-    const float r[] = {1.0f, 0.5f};
-    float k[1], a[1], err = 0.0f;
-    durbin(r, k, a, 1, &err);
+    const float firstOrder[] = {1.0f, 0.5f};
+    durbin(firstOrder, k, a, 1, &err);
     EXPECT_EQ(k[0], -0.5f);
     EXPECT_EQ(a[0], -0.5f);
     EXPECT_EQ(err, 0.75f);
