@@ -77,7 +77,7 @@ TEST_P(ChunkedPlaybackCuts, PlaysUpToTheLastWholeChunkAndEndsCleanly) {
     ASSERT_EQ(begin(cut.sampleCount, cut.chunk, cut.layout), 1);
     playToTheEnd();
 
-    EXPECT_EQ(device.writtenLengths.size(), static_cast<std::size_t>(cut.headers));
+    EXPECT_EQ(device.queuedLengths.size(), static_cast<std::size_t>(cut.headers));
     EXPECT_EQ(device.sounded, firstBytes(cut.played));
     EXPECT_EQ(play.bytePosition, cut.played * 2);
     const std::size_t queueLimit = cut.layout.zoomed ? cut.headers : std::min<std::int64_t>(cut.headers, 100);
@@ -121,7 +121,7 @@ TEST_F(ChunkedPlaybackTest, AStopInTheMiddleLeavesNothingPreparedAndEndsTheWait)
     EXPECT_FALSE(player.deviceOpen());
     EXPECT_FALSE(player.resetting());
     EXPECT_EQ(device.sounded, firstBytes(1500 + 9 * 1028));
-    EXPECT_EQ(device.writtenLengths.size(), 110u);  // the first hundred and one for each of the ten back
+    EXPECT_EQ(device.queuedLengths.size(), 110u);  // the first hundred and one for each of the ten back
     EXPECT_EQ(device.count("unprepare"), device.count("prepare"));
     EXPECT_TRUE(play.ChunkTable.empty());
 }
