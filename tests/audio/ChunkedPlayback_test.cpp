@@ -15,17 +15,6 @@
 
 namespace {
 
-WaveFormat monoFormat() {
-    WaveFormat format;
-    format.wFormatTag = 1;
-    format.nChannels = 1;
-    format.nSamplesPerSec = 11025;
-    format.nAvgBytesPerSec = 22050;
-    format.nBlockAlign = 2;
-    format.wBitsPerSample = 16;
-    return format;
-}
-
 class ChunkedPlaybackTest : public ::testing::Test {
 protected:
     FakePrompt prompt;
@@ -40,7 +29,7 @@ protected:
         samples.resize(static_cast<std::size_t>(count));
         for (std::size_t i = 0; i < samples.size(); ++i) samples[i] = static_cast<std::int16_t>(i * 7 + 3);
         window = std::make_unique<BasicPlayWindow>(player, play, prompt, samples.data(), count);
-        EXPECT_EQ(player.Open(monoFormat(), window.get()), 1);
+        EXPECT_EQ(player.Open(recordFormat(3), window.get()), 1);
         pumpDeviceEvents();
         play.clearCounters();
         return PlayChunked(play, player, samples.data(), count, chunk, layout, prompt);
@@ -158,7 +147,7 @@ TEST_F(ChunkedPlaybackTest, AFailedStartTellsWhyAndHandsBackWhatWasQueued) {
 TEST_F(ChunkedPlaybackTest, AOneShotPlayKeepsTheBytePosition) {
     samples.assign(4000, 5);
     window = std::make_unique<BasicPlayWindow>(player, play, prompt, samples.data(), 4000);
-    ASSERT_EQ(player.Open(monoFormat(), window.get()), 1);
+    ASSERT_EQ(player.Open(recordFormat(3), window.get()), 1);
     play.clearCounters();
     play.bytePosition = 1234;
     play.oneShot = true;

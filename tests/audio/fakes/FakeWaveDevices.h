@@ -191,5 +191,12 @@ private:
     int toggle(const char* call, bool pause);
 };
 
+// The record format of `index` (3 is 16-bit mono at 11025 Hz), as the writer knows them.
+inline WaveFormat recordFormat(int index) {
+    WaveWriter writer;
+    writer.SetRecordFormat(index);
+    return writer.format;
+}
+
 // Runs the event loop until no device event is waiting any more.
 void pumpDeviceEvents();
