@@ -15,17 +15,6 @@
 
 namespace {
 
-WaveFormat monoFormat() {
-    WaveFormat format;
-    format.wFormatTag = 1;
-    format.nChannels = 1;
-    format.nSamplesPerSec = 11025;
-    format.nAvgBytesPerSec = 22050;
-    format.nBlockAlign = 2;
-    format.wBitsPerSample = 16;
-    return format;
-}
-
 class ChunkedPlaybackTest : public ::testing::Test {
 protected:
     FakePrompt prompt;
@@ -40,7 +29,7 @@ protected:
         samples.resize(static_cast<std::size_t>(count));
         for (std::size_t i = 0; i < samples.size(); ++i) samples[i] = static_cast<std::int16_t>(i * 7 + 3);
         window = std::make_unique<BasicPlayWindow>(player, play, prompt, samples.data(), count);
-        EXPECT_EQ(player.Open(monoFormat(), window.get()), 1);
+        EXPECT_EQ(player.Open(recordFormat(3), window.get()), 1);
         pumpDeviceEvents();
         play.clearCounters();
         return PlayChunked(play, player, samples.data(), count, chunk, layout, prompt);
@@ -77,7 +66,7 @@ TEST_P(ChunkedPlaybackCuts, PlaysUpToTheLastWholeChunkAndEndsCleanly) {
     ASSERT_EQ(begin(cut.sampleCount, cut.chunk, cut.layout), 1);
     playToTheEnd();
 
-    EXPECT_EQ(device.writtenLengths.size(), static_cast<std::size_t>(cut.headers));
+    EXPECT_EQ(device.queuedLengths.size(), static_cast<std::size_t>(cut.headers));
     EXPECT_EQ(device.sounded, firstBytes(cut.played));
     EXPECT_EQ(play.bytePosition, cut.played * 2);
     const std::size_t queueLimit = cut.layout.zoomed ? cut.headers : std::min<std::int64_t>(cut.headers, 100);
@@ -121,7 +110,7 @@ TEST_F(ChunkedPlaybackTest, AStopInTheMiddleLeavesNothingPreparedAndEndsTheWait)
     EXPECT_FALSE(player.deviceOpen());
     EXPECT_FALSE(player.resetting());
     EXPECT_EQ(device.sounded, firstBytes(1500 + 9 * 1028));
-    EXPECT_EQ(device.writtenLengths.size(), 110u);  // the first hundred and one for each of the ten back
+    EXPECT_EQ(device.queuedLengths.size(), 110u);  // the first hundred and one for each of the ten back
     EXPECT_EQ(device.count("unprepare"), device.count("prepare"));
     EXPECT_TRUE(play.ChunkTable.empty());
 }
@@ -158,7 +147,7 @@ TEST_F(ChunkedPlaybackTest, AFailedStartTellsWhyAndHandsBackWhatWasQueued) {
 TEST_F(ChunkedPlaybackTest, AOneShotPlayKeepsTheBytePosition) {
     samples.assign(4000, 5);
     window = std::make_unique<BasicPlayWindow>(player, play, prompt, samples.data(), 4000);
-    ASSERT_EQ(player.Open(monoFormat(), window.get()), 1);
+    ASSERT_EQ(player.Open(recordFormat(3), window.get()), 1);
     play.clearCounters();
     play.bytePosition = 1234;
     play.oneShot = true;

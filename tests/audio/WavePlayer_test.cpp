@@ -15,17 +15,6 @@
 
 namespace {
 
-WaveFormat monoFormat() {
-    WaveFormat format;
-    format.wFormatTag = 1;
-    format.nChannels = 1;
-    format.nSamplesPerSec = 22050;
-    format.nAvgBytesPerSec = 44100;
-    format.nBlockAlign = 2;
-    format.wBitsPerSample = 16;
-    return format;
-}
-
 class WavePlayerTest : public ::testing::Test {
 protected:
     FakePrompt prompt;
@@ -36,7 +25,7 @@ protected:
     BasicPlayWindow window{player, play, prompt, samples.data(), static_cast<std::int64_t>(samples.size())};
 
     void startChunked() {
-        ASSERT_EQ(player.Open(monoFormat(), &window), 1);
+        ASSERT_EQ(player.Open(recordFormat(5), &window), 1);
         play.clearCounters();
         ASSERT_EQ(
             PlayChunked(play, player, samples.data(), static_cast<std::int64_t>(samples.size()), 1024, {}, prompt), 1);
@@ -51,18 +40,18 @@ protected:
 
 TEST_F(WavePlayerTest, OpenAsksTheDeviceFirstAndARefusalIsTold) {
     device.queryResults.push(WAVERR_BADFORMAT);
-    EXPECT_EQ(player.Open(monoFormat(), &window), 0);
+    EXPECT_EQ(player.Open(recordFormat(5), &window), 0);
     EXPECT_EQ(device.calls, std::vector<std::string>{"query"});
     EXPECT_EQ(prompt.shown, std::vector<std::string>{std::string(kCannotOpenPlayback)});
 
     device.openResults.push(MMSYSERR_ALLOCATED);
-    EXPECT_EQ(player.Open(monoFormat(), &window), 0);
+    EXPECT_EQ(player.Open(recordFormat(5), &window), 0);
     EXPECT_EQ(prompt.shown.size(), 2u);
     EXPECT_FALSE(player.deviceOpen());
 
-    EXPECT_EQ(player.Open(monoFormat(), &window), 1);
+    EXPECT_EQ(player.Open(recordFormat(5), &window), 1);
     EXPECT_TRUE(player.deviceOpen());
-    EXPECT_EQ(device.openedFormat, monoFormat());
+    EXPECT_EQ(device.openedFormat, recordFormat(5));
 }
 
 TEST_F(WavePlayerTest, OpeningAgainStopsTheRunningPlayAndWaitsForItsClose) {
@@ -70,7 +59,7 @@ TEST_F(WavePlayerTest, OpeningAgainStopsTheRunningPlayAndWaitsForItsClose) {
     device.play(3);
     pumpDeviceEvents();
     const std::size_t before = device.calls.size();
-    ASSERT_EQ(player.Open(monoFormat(), &window), 1);
+    ASSERT_EQ(player.Open(recordFormat(5), &window), 1);
 
     const auto pause = position("pause", before), reset = position("reset", before), close = position("close", before);
     const auto open = position("open", before);
@@ -108,13 +97,13 @@ TEST_F(WavePlayerTest, AHardStopEndsThePlayAndHoldsTheQueueUntilTheNextOpen) {
     EXPECT_TRUE(device.sounded.empty());
     // Stop queue lasts until the next open.
     EXPECT_TRUE(player.stopQueue());
-    ASSERT_EQ(player.Open(monoFormat(), &window), 1);
+    ASSERT_EQ(player.Open(recordFormat(5), &window), 1);
     EXPECT_FALSE(player.stopQueue());
 }
 
 TEST_F(WavePlayerTest, OneShotFailuresStopTheQueueWithTheirMessages) {
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(samples.data());
-    ASSERT_EQ(player.Open(monoFormat(), &window), 1);
+    ASSERT_EQ(player.Open(recordFormat(5), &window), 1);
     device.prepareResults.push(MMSYSERR_NOMEM);
     EXPECT_EQ(player.PlayOnce(bytes, 4000), 0);
     EXPECT_EQ(prompt.shown, std::vector<std::string>{waveErrorText(MMSYSERR_NOMEM)});
@@ -125,7 +114,7 @@ TEST_F(WavePlayerTest, OneShotFailuresStopTheQueueWithTheirMessages) {
     EXPECT_FALSE(player.deviceOpen());
 
     prompt.shown.clear();
-    ASSERT_EQ(player.Open(monoFormat(), &window), 1);
+    ASSERT_EQ(player.Open(recordFormat(5), &window), 1);
     device.writeResults.push(MMSYSERR_ERROR);
     const std::size_t before = device.calls.size();
     EXPECT_EQ(player.PlayOnce(bytes, 4000), 0);

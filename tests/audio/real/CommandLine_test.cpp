@@ -1,8 +1,6 @@
 // The record and play commands of sonalys-analyze on the test PulseAudio server.
 #include <gtest/gtest.h>
 
-#include <QProcess>
-#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -13,18 +11,9 @@
 
 namespace {
 
-struct CommandRun {
-    int status;  // -1 when the program did not end by itself
-    std::string out;
-    std::string errors;
-};
-
-CommandRun sonalysAnalyze(const QStringList& arguments) {
-    QProcess process;
-    process.start(SONALYS_CLI_PATH, arguments);
-    process.waitForFinished(60'000);
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
+// Runs sonalys-analyze with `arguments`; the output holds what it wrote on both streams.
+CommandResult sonalysAnalyze(const std::string& arguments) {
+    return runCommand(std::string(SONALYS_CLI_PATH) + " " + arguments + " 2>&1");
 }
 
 class CommandLineAudioTest : public ::testing::Test {
@@ -41,11 +30,11 @@ protected:
 TEST_F(CommandLineAudioTest, RecordWritesAnUnbrokenTakeOfTheGivenLength) {
     PipeFeeder feeder(
         devices->fifo, 11025, [](std::size_t i) { return static_cast<std::int16_t>(i + 1); }, 10 * 11025);
-    const std::string take = (root / "take.wav").string();
-    const CommandRun run = sonalysAnalyze({"record", QString::fromStdString(take), "--seconds", "1.5"});
+    const std::filesystem::path take = root / "take.wav";
+    const CommandResult run = sonalysAnalyze("record " + quoted(take) + " --seconds 1.5");
     feeder.stop();
-    ASSERT_EQ(run.status, 0) << run.errors;
-    EXPECT_NE(run.out.find("sample_rate,11025\n"), std::string::npos);
+    ASSERT_EQ(run.exitCode, 0) << run.output;
+    EXPECT_NE(run.output.find("sample_rate,11025\n"), std::string::npos);
 
     const WaveLoadResult loaded = WaveLoad(take);
     ASSERT_EQ(loaded.code, kWaveOk);
@@ -59,33 +48,33 @@ TEST_F(CommandLineAudioTest, RecordWritesAnUnbrokenTakeOfTheGivenLength) {
 }
 
 TEST_F(CommandLineAudioTest, PlayOfARangeSoundsExactlyThatRange) {
-    if (!haveProgram("parec")) GTEST_SKIP() << "parec is missing";
+    if (!toolAvailable("parec")) GTEST_SKIP() << "parec is missing";
     std::vector<std::int16_t> file(2 * 11025);
     for (std::size_t i = 0; i < file.size(); ++i) file[i] = static_cast<std::int16_t>(1 + i);
     WaveWriter writer;
     writer.SetRecordFormat(3);
     FakePrompt prompt;
-    const std::string path = (root / "count.wav").string();
+    const std::filesystem::path path = root / "count.wav";
     ASSERT_EQ(writer.WaveWrite(path, static_cast<std::uint32_t>(file.size() * 2), file.data(), prompt), 1);
 
     MonitorRecording heard(devices->sink, 11025, root / "heard.raw");
-    const CommandRun run = sonalysAnalyze({"play", QString::fromStdString(path), "--from", "0.5", "--to", "1"});
+    const CommandResult run = sonalysAnalyze("play " + quoted(path) + " --from 0.5 --to 1");
     runEventLoop(300);
     std::vector<std::int16_t> got = heard.stop();
-    ASSERT_EQ(run.status, 0) << run.errors;
+    ASSERT_EQ(run.exitCode, 0) << run.output;
 
     // 0.5 s is sample 5512.5, rounded to 5513; 1 s is sample 11025, not played.
     std::erase(got, 0);
     const std::vector<std::int16_t> expected(file.begin() + 5513, file.begin() + 11025);
     EXPECT_EQ(got, expected);
-    EXPECT_NE(run.out.find("values_played,5512\n"), std::string::npos);
+    EXPECT_NE(run.output.find("values_played,5512\n"), std::string::npos);
 }
 
 TEST_F(CommandLineAudioTest, WrongUsageAndUnreadableFilesAreRefused) {
-    EXPECT_EQ(sonalysAnalyze({"record", "x.wav"}).status, 1);  // no length
-    EXPECT_EQ(sonalysAnalyze({"record", "x.wav", "--seconds", "1", "--rate", "8000"}).status, 1);
-    EXPECT_EQ(sonalysAnalyze({"play", "x.wav", "--from", "2", "--to", "1"}).status, 1);
-    EXPECT_EQ(sonalysAnalyze({"play", (root / "missing.wav").string().c_str()}).status, 2);
+    EXPECT_EQ(sonalysAnalyze("record x.wav").exitCode, 1);  // no length
+    EXPECT_EQ(sonalysAnalyze("record x.wav --seconds 1 --rate 8000").exitCode, 1);
+    EXPECT_EQ(sonalysAnalyze("play x.wav --from 2 --to 1").exitCode, 1);
+    EXPECT_EQ(sonalysAnalyze("play " + quoted(root / "missing.wav")).exitCode, 2);
 }
 
 }  // namespace

@@ -14,7 +14,7 @@
 namespace {
 
 TEST(LostDevice, AServerStoppedDuringCaptureEndsItAndKeepsTheScratchFile) {
-    if (!haveProgram("pulseaudio")) GTEST_SKIP() << "pulseaudio is missing";
+    if (!toolAvailable("pulseaudio")) GTEST_SKIP() << "pulseaudio is missing";
     TempDir root;
     TempDir serverFolder;
     PrivatePulseServer server(serverFolder.path());

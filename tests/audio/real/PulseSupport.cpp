@@ -3,28 +3,14 @@
 #include <fcntl.h>
 #include <unistd.h>
 #include <QEventLoop>
-#include <QStandardPaths>
 #include <QTimer>
 #include <array>
 #include <csignal>
-#include <cstdio>
 #include <ctime>
 #include <fstream>
 #include <sstream>
 
 #include "store/WaveFile.h"
-
-std::optional<std::string> runCommand(const std::string& command) {
-    std::FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe) return std::nullopt;
-    std::string out;
-    std::array<char, 4096> chunk;
-    while (const std::size_t got = std::fread(chunk.data(), 1, chunk.size(), pipe)) out.append(chunk.data(), got);
-    if (pclose(pipe) != 0) return std::nullopt;
-    return out;
-}
-
-bool haveProgram(const char* name) { return !QStandardPaths::findExecutable(name).isEmpty(); }
 
 namespace {
 
@@ -47,14 +33,14 @@ std::string argument(const std::string& arguments, const std::string& key) {
 
 std::optional<TestDevices> findTestDevices(const std::string& server) {
     const std::string pactl = server.empty() ? "pactl" : "pactl -s " + server;
-    const auto source = runCommand(pactl + " get-default-source 2>/dev/null");
-    const auto sink = runCommand(pactl + " get-default-sink 2>/dev/null");
-    const auto modules = runCommand(pactl + " list short modules 2>/dev/null");
-    if (!source || !sink || !modules) return std::nullopt;
+    const CommandResult source = runCommand(pactl + " get-default-source 2>/dev/null");
+    const CommandResult sink = runCommand(pactl + " get-default-sink 2>/dev/null");
+    const CommandResult modules = runCommand(pactl + " list short modules 2>/dev/null");
+    if (source.exitCode != 0 || sink.exitCode != 0 || modules.exitCode != 0) return std::nullopt;
     TestDevices devices;
-    devices.source = firstLine(*source);
-    devices.sink = firstLine(*sink);
-    std::istringstream lines(*modules);
+    devices.source = firstLine(source.output);
+    devices.sink = firstLine(sink.output);
+    std::istringstream lines(modules.output);
     std::string line;
     while (std::getline(lines, line)) {
         if (line.find("module-pipe-source") == std::string::npos) continue;
@@ -188,11 +174,10 @@ void PrivatePulseServer::stop() {
 }
 
 std::vector<std::int16_t> makeSpeech(const std::filesystem::path& folder, int rate, const std::string& text) {
-    if (!haveProgram("espeak-ng") || !haveProgram("sox")) return {};
-    const std::string spoken = (folder / "spoken.wav").string();
-    const std::string converted = (folder / "speech.wav").string();
-    if (!runCommand("espeak-ng -w '" + spoken + "' '" + text + "'")) return {};
-    if (!runCommand("sox '" + spoken + "' -r " + std::to_string(rate) + " -c 1 -b 16 '" + converted + "'")) return {};
+    const std::filesystem::path spoken = folder / "spoken.wav", converted = folder / "speech.wav";
+    if (runCommand("espeak-ng -w " + quoted(spoken) + " '" + text + "'").exitCode != 0) return {};
+    const std::string convert = "sox " + quoted(spoken) + " -r " + std::to_string(rate) + " -c 1 -b 16 ";
+    if (runCommand(convert + quoted(converted)).exitCode != 0) return {};
     return WaveLoad(converted).samples;
 }
 

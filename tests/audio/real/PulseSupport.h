@@ -15,6 +15,8 @@
 #include <thread>
 #include <vector>
 
+#include "RunCommand.h"
+
 // The default source when it is a pipe, and the default sink.
 struct TestDevices {
     std::filesystem::path fifo;
@@ -26,10 +28,6 @@ std::optional<TestDevices> findTestDevices(const std::string& server = {});
 
 // Throws away what an earlier test left in the pipe, so that a capture starts with what this test feeds.
 void drainPipe(const std::filesystem::path& fifo);
-
-// The standard output of a shell command, or nothing when it fails.
-std::optional<std::string> runCommand(const std::string& command);
-bool haveProgram(const char* name);
 
 // Writes sound into a named pipe block by block at the pace of real time, as a microphone delivers it, until stopped
 // or the sound runs out. Notes when each block went in.

@@ -18,15 +18,10 @@
 
 namespace {
 
-WaveFormat monoFormat(std::uint32_t rate) {
-    WaveFormat format;
-    format.wFormatTag = 1;
-    format.nChannels = 1;
-    format.nSamplesPerSec = rate;
-    format.nAvgBytesPerSec = rate * 2;
-    format.nBlockAlign = 2;
-    format.wBitsPerSample = 16;
-    return format;
+WaveFormat monoFormat() {
+    WaveWriter writer;
+    writer.SetRecordFormat(3);  // 16-bit mono at 11025 Hz
+    return writer.format;
 }
 
 // Where `part` first appears in `whole`, if it does.
@@ -41,7 +36,7 @@ protected:
     void SetUp() override {
         devices = findTestDevices();
         if (!devices) GTEST_SKIP() << "no PulseAudio server with the test devices (scripts/pulse-test-server.sh)";
-        if (!haveProgram("parec")) GTEST_SKIP() << "parec is missing";
+        if (!toolAvailable("parec")) GTEST_SKIP() << "parec is missing";
     }
 
     std::optional<TestDevices> devices;
@@ -71,7 +66,7 @@ TEST_F(RealPlaybackTest, AChunkedPlaySoundsTheFileAndEndsOneChunkShort) {
     MonitorRecording heard(devices->sink, 11025, root / "heard.raw");
     ASSERT_TRUE(heard.started());
     BasicPlayWindow window(player, play, prompt, file.data(), count);
-    ASSERT_EQ(player.Open(monoFormat(11025), &window), 1);
+    ASSERT_EQ(player.Open(monoFormat(), &window), 1);
     play.clearCounters();
     ASSERT_EQ(PlayChunked(play, player, file.data(), count, 1024, {}, prompt), 1);
     player.WaitClosed();
@@ -102,7 +97,7 @@ TEST_F(RealPlaybackTest, PauseRestartAndAStopInTheMiddleEndCleanly) {
     MonitorRecording heard(devices->sink, 11025, root / "heard.raw");
     ASSERT_TRUE(heard.started());
     BasicPlayWindow window(player, play, prompt, file.data(), count);
-    ASSERT_EQ(player.Open(monoFormat(11025), &window), 1);
+    ASSERT_EQ(player.Open(monoFormat(), &window), 1);
     play.clearCounters();
     ASSERT_EQ(PlayChunked(play, player, file.data(), count, 1024, {}, prompt), 1);
     runEventLoop(1000);
