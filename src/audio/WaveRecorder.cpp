@@ -62,13 +62,7 @@ WaveRecorder::WaveRecorder(WaveInDevice& device, Prompt& prompt, std::filesystem
 
 WaveRecorder::~WaveRecorder() {
     if (!m_deviceOpen) return;
-    m_stopRequested = true;
-    m_device.reset();
-    for (int slot = 0; slot < kSlotCount; ++slot) {
-        if (!m_slots[slot].header) continue;
-        m_device.unprepareHeader(*m_slots[slot].header);
-        freeSlot(slot);
-    }
+    resetAndFreeSlots();
     m_device.close();
 }
 
@@ -152,7 +146,8 @@ bool WaveRecorder::fillSlots() {
     return true;
 }
 
-void WaveRecorder::abandonStart() {
+// Stops the device taking buffers and hands every buffer it still holds back to us.
+void WaveRecorder::resetAndFreeSlots() {
     m_stopRequested = true;
     m_device.reset();
     for (int slot = 0; slot < kSlotCount; ++slot) {
@@ -160,6 +155,10 @@ void WaveRecorder::abandonStart() {
         m_device.unprepareHeader(*m_slots[slot].header);
         freeSlot(slot);
     }
+}
+
+void WaveRecorder::abandonStart() {
+    resetAndFreeSlots();
     closeDevice();
 }
 

@@ -101,6 +101,7 @@ private:
 
     bool fillSlots();
     void abandonStart();
+    void resetAndFreeSlots();
     void freeSlot(int slot);
     void closeDevice();
     void appendToScratch(const WaveHeader& header);
