@@ -21,6 +21,7 @@
 #include "app/DesktopPrograms.h"
 #include "app/HelpBrowser.h"
 #include "app/TableText.h"
+#include "audio/CrashMarker.h"
 #include "clients/CPacienteTable.h"
 #include "controls/FileDialogMemory.h"
 #include "controls/UiText.h"
@@ -53,9 +54,7 @@ constexpr int kBusyTextWidth = 200;
 CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     : QMainWindow(parent), m_app(app), m_prompt(app.prompt()), m_home(app.home()) {
     // A recording that never ended means the screen update rate was too fast for this computer.
-    const RecordingMarker marker = TakeRecordingMarker(m_home);
-    if (marker.present) RememberedUpdateRateIndex = marker.updateRateIndex;
-    if (marker.lastRecordingBroken()) m_prompt.showOk(kNotEndedProperly);
+    RememberedUpdateRateIndex = takeCrashMarker(m_home, m_prompt);
 
     setWindowIcon(QIcon(":/app/sonalys.svg"));
     m_view = new CAFView(m_prompt, this);

@@ -64,10 +64,6 @@ inline constexpr std::string_view kTipAbout =
     QT_TRANSLATE_NOOP("Sonalys", "Show the version of the program and of the computer");
 inline constexpr std::string_view kReady = QT_TRANSLATE_NOOP("Sonalys", "Ready");
 
-inline constexpr std::string_view kNotEndedProperly = QT_TRANSLATE_NOOP(
-    "Sonalys",
-    "Sonalys was not ended properly in the last utilisation. Please, reduce the screen update rate before starting "
-    "recording a new sound file.");
 inline constexpr std::string_view kExitQuestion = QT_TRANSLATE_NOOP("Sonalys", "Are you sure you want to exit?");
 inline constexpr std::string_view kVolumeControlFailed =
     QT_TRANSLATE_NOOP("Sonalys", "Volume Control can´t be  can´t be Inicialized!");

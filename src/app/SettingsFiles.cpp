@@ -44,17 +44,3 @@ int ReadRecordInput(const std::filesystem::path& home, int current) {
     const auto values = ReadSettingInts(home / kRecordInputFile, 1);
     return values ? (*values)[0] : current;
 }
-
-RecordingMarker TakeRecordingMarker(const std::filesystem::path& home) {
-    const auto file = home / kRecordingMarkerFile;
-    RecordingMarker marker;
-    if (const auto first = ReadSettingInts(file, 1)) {
-        marker.present = true;
-        marker.ended = (*first)[0];
-        // A file cut short after the marker still warns; the update rate then stays unknown.
-        if (const auto both = ReadSettingInts(file, 2)) marker.updateRateIndex = (*both)[1];
-    }
-    std::error_code ignored;
-    std::filesystem::remove(file, ignored);
-    return marker;
-}

@@ -11,10 +11,9 @@
 // The interface language, by the number stored in lang.dat.
 enum class LanguageId : std::int32_t { English = 0, Spanish = 1, Korean = 2, Portuguese = 3 };
 
-inline constexpr const char* kLanguageFile = "lang.dat";        // LanguageId
-inline constexpr const char* kScreenModeFile = "conf.dat";      // ScreenMode, written by the installer only
-inline constexpr const char* kRecordInputFile = "cfr.dat";      // RecordInput: 0 microphone, 1 line in
-inline constexpr const char* kRecordingMarkerFile = "sy1.log";  // recording marker, then update rate index
+inline constexpr const char* kLanguageFile = "lang.dat";    // LanguageId
+inline constexpr const char* kScreenModeFile = "conf.dat";  // ScreenMode, written by the installer only
+inline constexpr const char* kRecordInputFile = "cfr.dat";  // RecordInput: 0 microphone, 1 line in
 
 // A missing lang.dat means Korean; a missing conf.dat means "take the screen as it is".
 inline constexpr LanguageId kLanguageWhenMissing = LanguageId::Korean;
@@ -30,14 +29,3 @@ bool WriteLanguage(const std::filesystem::path& home, LanguageId language);
 int ReadScreenMode(const std::filesystem::path& home);
 // The record input of cfr.dat, or `current` unchanged when the file is missing.
 int ReadRecordInput(const std::filesystem::path& home, int current);
-
-// What sy1.log said about the last run. The recording engine writes 0 when a recording starts and 1 when it
-// ends properly, followed by the index of the screen update rate in use.
-struct RecordingMarker {
-    bool present = false;    // the file was there
-    std::int32_t ended = 1;  // 0: the last recording never ended
-    std::int32_t updateRateIndex = -1;
-    bool lastRecordingBroken() const { return present && ended == 0; }
-};
-// Reads sy1.log and deletes it, so that the warning it may carry is given once.
-RecordingMarker TakeRecordingMarker(const std::filesystem::path& home);

@@ -18,8 +18,10 @@ bool writeCrashMarker(const std::filesystem::path& dataRoot, const CrashMarker& 
 std::optional<CrashMarker> readCrashMarker(const std::filesystem::path& dataRoot) {
     std::ifstream in(dataRoot / kCrashMarkerFileName, std::ios::binary);
     std::array<std::uint8_t, 8> bytes{};
-    if (!in.read(reinterpret_cast<char*>(bytes.data()), bytes.size())) return std::nullopt;
-    return CrashMarker{readLE32Signed(bytes.data()), readLE32Signed(bytes.data() + 4)};
+    in.read(reinterpret_cast<char*>(bytes.data()), bytes.size());
+    const auto length = in.gcount();
+    if (length < 4) return std::nullopt;
+    return CrashMarker{readLE32Signed(bytes.data()), length == 8 ? readLE32Signed(bytes.data() + 4) : -1};
 }
 
 int takeCrashMarker(const std::filesystem::path& dataRoot, Prompt& prompt) {

@@ -26,6 +26,7 @@
 #include "app/RecentFileList.h"
 #include "app/ScreenCheck.h"
 #include "app/SystemInfo.h"
+#include "audio/CrashMarker.h"
 #include "controls/UiText.h"
 #include "view/CAFView.h"
 

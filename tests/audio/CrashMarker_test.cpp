@@ -34,6 +34,11 @@ TEST(CrashMarker, ACaptureThatNeverEndedWarnsOnceAndKeepsTheUpdateRate) {
     EXPECT_EQ(takeCrashMarker(root.path(), prompt), -1);
     EXPECT_EQ(prompt.shown.size(), 1u);
     EXPECT_FALSE(std::filesystem::exists(root / "sy1.log"));
+
+    // A file cut after its first number still warns; the update rate is then unknown.
+    root.write("sy1.log", std::string("\0\0\0\0", 4));
+    EXPECT_EQ(takeCrashMarker(root.path(), prompt), -1);
+    EXPECT_EQ(prompt.shown.size(), 2u);
 }
 
 TEST(TempFile, AWriteAnswersOneForAllZeroForShortAndMinusOneWithNoFile) {
