@@ -182,7 +182,7 @@ int WaveRecorder::AddBuffer() {
     std::unique_ptr<WaveHeader> header(new (std::nothrow) WaveHeader{});
     std::unique_ptr<std::uint8_t[]> buffer(new (std::nothrow) std::uint8_t[static_cast<std::size_t>(bytes)]);
     if (!header || !buffer) {
-        m_prompt.showOk(kNoFreeMemory);
+        m_prompt.showOk(kCaptureNoFreeMemory);
         return -1;
     }
     header->lpData = buffer.get();
@@ -265,7 +265,7 @@ void WaveRecorder::finishFile() {
             if (m_outputNamed) m_writer.WaveWrite(m_outputPath, bytes, samples.data(), m_prompt);
         } catch (const std::bad_alloc&) {
             m_temporaryFile.close();
-            m_prompt.showOk(kNoFreeMemory);
+            m_prompt.showOk(kCaptureNoFreeMemory);
         }
     }
     m_finishState = kFinished;

@@ -14,18 +14,17 @@
 
 #include "audio/TempFile.h"
 #include "audio/WaveDevice.h"
+#include "store/RecordingFiles.h"
 #include "store/WaveFile.h"
 
 class QEventLoop;
 struct Prompt;
 
-inline constexpr std::string_view kScratchFileName = "grav.tmp";
-
 // Built when the device refuses to open; the device's own sentence is what the user sees.
 inline constexpr std::string_view kRecordOpenFailed =
     "Erro Gravação\nwfe.cbSize = %d\nwfe.nAvgBytesPerSec = %d\nwfe.nBlockAlign %d\nwfe.nChannels %d\n"
     "wfe.nSamplesPerSec %d\nwfe.wBitsPerSample %d\nwfe.wFormatTag %d";
-inline constexpr std::string_view kNoFreeMemory = "There is no free memory available!";
+inline constexpr std::string_view kCaptureNoFreeMemory = "There is no free memory available!";
 inline constexpr std::string_view kErrorLoadingHeader = "Error Loading Header";
 inline constexpr std::string_view kCannotStartRecording = "It was not possible to start recording";
 inline constexpr std::string_view kErrorWritingFile = "Error writing to file\nVerify if there is free space!";
@@ -90,7 +89,7 @@ public:
     int updateRateBytes() const noexcept { return m_updateRateBytes; }
     int bufferBytes() const noexcept { return m_updateRateBytes & ~1; }  // an odd size loses its last byte
     int queuedSlots() const noexcept;
-    std::filesystem::path scratchPath() const { return m_dataRoot / kScratchFileName; }
+    std::filesystem::path scratchPath() const { return ScratchRecordingPath(m_dataRoot); }
 
 private:
     class OwnEvents;
