@@ -1,8 +1,6 @@
 // The spectral and formant subcommands of sonalys-analyze, run as a user runs them, on files made by real tools.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -11,30 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "RunCommand.h"
 #include "TempDir.h"
 
 namespace {
 
-struct CommandResult {
-    int status = -1;
-    std::string out;
-};
-
 CommandResult run(const std::string& arguments) {
-    CommandResult result;
-    const std::string command = std::string(SONALYS_CLI_PATH) + " " + arguments + " 2>/dev/null";
-    FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr) return result;
-    char buffer[4096];
-    std::size_t n;
-    while ((n = fread(buffer, 1, sizeof buffer, pipe)) > 0) result.out.append(buffer, n);
-    const int status = pclose(pipe);
-    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
-}
-
-bool haveTool(const char* name) {
-    return std::system((std::string("command -v ") + name + " >/dev/null").c_str()) == 0;
+    return runCommand(std::string(SONALYS_CLI_PATH) + " " + arguments + " 2>/dev/null");
 }
 
 std::vector<std::vector<double>> csvRows(const std::string& text, std::string& header) {
@@ -53,7 +34,7 @@ std::vector<std::vector<double>> csvRows(const std::string& text, std::string& h
 }  // namespace
 
 TEST(FormantsCommand, SpeechFromEspeakGivesOneRowPer10MsTheSameOnAnyThreadCount) {
-    if (!haveTool("espeak-ng")) GTEST_SKIP() << "espeak-ng is not installed";
+    if (!toolAvailable("espeak-ng")) GTEST_SKIP() << "espeak-ng is not installed";
     TempDir dir;
     const auto wav = (dir / "speech.wav").string();
     ASSERT_EQ(
@@ -61,9 +42,9 @@ TEST(FormantsCommand, SpeechFromEspeakGivesOneRowPer10MsTheSameOnAnyThreadCount)
             ("espeak-ng -w " + wav + " 'Formants of a speaking voice, measured every ten milliseconds.'").c_str()),
         0);
     const CommandResult one = run("formants " + wav + " --threads 1");
-    ASSERT_EQ(one.status, 0);
+    ASSERT_EQ(one.exitCode, 0);
     std::string header;
-    const auto rows = csvRows(one.out, header);
+    const auto rows = csvRows(one.output, header);
     EXPECT_EQ(header, "time_s,f1,f2,f3,f4");
     ASSERT_GT(rows.size(), 100u);
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -71,20 +52,20 @@ TEST(FormantsCommand, SpeechFromEspeakGivesOneRowPer10MsTheSameOnAnyThreadCount)
         EXPECT_NEAR(rows[i][0], 0.01 * static_cast<double>(i), 1e-9);
         EXPECT_TRUE(rows[i][1] < rows[i][2] || rows[i][1] == 500.0) << "row " << i;
     }
-    EXPECT_EQ(run("formants " + wav + " --threads 2").out, one.out);
-    EXPECT_EQ(run("formants " + wav).out, one.out);
+    EXPECT_EQ(run("formants " + wav + " --threads 2").output, one.output);
+    EXPECT_EQ(run("formants " + wav).output, one.output);
 }
 
 TEST(SpectrumCommand, ASoxSineAt1000HzPeaksInItsBin) {
-    if (!haveTool("sox")) GTEST_SKIP() << "sox is not installed";
+    if (!toolAvailable("sox")) GTEST_SKIP() << "sox is not installed";
     TempDir dir;
     const auto wav = (dir / "tone.wav").string();
     ASSERT_EQ(std::system(("sox -n -r 11025 -b 16 -c 1 " + wav + " synth 1 sine 1000 vol 0.5").c_str()), 0);
     for (int fft : {256, 512, 1024}) {
         const CommandResult result = run("spectrum " + wav + " --fft " + std::to_string(fft) + " --from 0.2 --to 0.8");
-        ASSERT_EQ(result.status, 0) << fft;
+        ASSERT_EQ(result.exitCode, 0) << fft;
         std::string header;
-        const auto rows = csvRows(result.out, header);
+        const auto rows = csvRows(result.output, header);
         EXPECT_EQ(header, "freq_hz,db");
         ASSERT_EQ(rows.size(), static_cast<std::size_t>(fft / 2));
         std::size_t peak = 0;
@@ -96,14 +77,14 @@ TEST(SpectrumCommand, ASoxSineAt1000HzPeaksInItsBin) {
 }
 
 TEST(SpectrogramCommand, WritesAPictureOfTheAskedSize) {
-    if (!haveTool("sox")) GTEST_SKIP() << "sox is not installed";
+    if (!toolAvailable("sox")) GTEST_SKIP() << "sox is not installed";
     TempDir dir;
     const auto wav = (dir / "sweep.wav").string();
     ASSERT_EQ(std::system(("sox -n -r 22050 -b 16 -c 1 " + wav + " synth 2 sine 200-4000 vol 0.5").c_str()), 0);
     const auto png = (dir / "sweep.png").string();
     const CommandResult result = run("spectrogram " + wav + " --out " + png + " --width 320 --height 200 --scheme 1");
-    if (result.status == 2 && !std::ifstream(png)) GTEST_SKIP() << "built without pictures";
-    ASSERT_EQ(result.status, 0);
+    if (result.exitCode == 2 && !std::ifstream(png)) GTEST_SKIP() << "built without pictures";
+    ASSERT_EQ(result.exitCode, 0);
     std::ifstream in(png, std::ios::binary);
     std::vector<unsigned char> head(24);
     in.read(reinterpret_cast<char*>(head.data()), 24);
@@ -120,11 +101,11 @@ TEST(AnalysisCommands, RefuseWrongUsageAndInputWithTheirStatus) {
     TempDir dir;
     dir.write("not.wav", "this is not a sound file");
     const auto bad = (dir / "not.wav").string();
-    EXPECT_EQ(run("formants").status, 1);
-    EXPECT_EQ(run("formants " + bad).status, 2);
-    EXPECT_EQ(run("formants " + bad + " --threads 0").status, 1);
-    EXPECT_EQ(run("spectrum " + bad + " --fft 300").status, 1);
-    EXPECT_EQ(run("spectrum " + bad).status, 2);
-    EXPECT_EQ(run("spectrogram " + bad).status, 1);  // no --out
-    EXPECT_EQ(run("spectrogram " + bad + " --out x.png").status, 2);
+    EXPECT_EQ(run("formants").exitCode, 1);
+    EXPECT_EQ(run("formants " + bad).exitCode, 2);
+    EXPECT_EQ(run("formants " + bad + " --threads 0").exitCode, 1);
+    EXPECT_EQ(run("spectrum " + bad + " --fft 300").exitCode, 1);
+    EXPECT_EQ(run("spectrum " + bad).exitCode, 2);
+    EXPECT_EQ(run("spectrogram " + bad).exitCode, 1);  // no --out
+    EXPECT_EQ(run("spectrogram " + bad + " --out x.png").exitCode, 2);
 }

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <cmath>
 #include <cstdio>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "FakePrompt.h"
+#include "RunCommand.h"
 #include "TempDir.h"
 #include "store/WaveFile.h"
 
@@ -28,13 +28,8 @@ struct CliRun {
 CliRun runF0(const TempDir& dir, const std::string& arguments) {
     const std::string command =
         std::string(SONALYS_CLI_PATH) + " f0 " + arguments + " 2>" + (dir / "stderr.txt").string();
-    CliRun result;
-    FILE* pipe = popen(command.c_str(), "r");
-    char buffer[4096];
-    for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) result.out.append(buffer, n);
-    const int status = pclose(pipe);
-    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    result.err = dir.read("stderr.txt");
+    const CommandResult run = runCommand(command);
+    CliRun result{run.exitCode, run.output, dir.read("stderr.txt")};
     return result;
 }
 

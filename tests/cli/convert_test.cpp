@@ -4,27 +4,18 @@
 #include <cstdlib>
 #include <string>
 
-#include <sys/wait.h>
-
+#include "RunCommand.h"
 #include "TempDir.h"
 
 namespace {
 
-bool haveSox() { return std::system("command -v sox >/dev/null 2>&1 && command -v soxi >/dev/null 2>&1") == 0; }
+bool haveSox() { return toolAvailable("sox") && toolAvailable("soxi"); }
 
-int run(const std::string& command) {
-    const int status = std::system((command + " >/dev/null 2>&1").c_str());
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
+int run(const std::string& command) { return runCommand(command + " >/dev/null 2>&1").exitCode; }
 
 // What soxi says of one property of a file: "-r" rate, "-c" channels, "-b" bits, "-s" samples per channel.
 std::string soxi(const std::string& flag, const std::filesystem::path& file) {
-    const std::string command = "soxi " + flag + " '" + file.string() + "' 2>/dev/null";
-    std::FILE* pipe = popen(command.c_str(), "r");
-    std::string text;
-    char buffer[128];
-    while (pipe && std::fgets(buffer, sizeof buffer, pipe)) text += buffer;
-    if (pipe) pclose(pipe);
+    std::string text = runCommand("soxi " + flag + " " + quoted(file) + " 2>/dev/null").output;
     while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) text.pop_back();
     return text;
 }
