@@ -298,6 +298,10 @@ QRect ClassAux::placed(QRect at) const {
 }
 
 void ClassAux::setPageScale(bool wide, double scaleX, double scaleY) {
+    // The view places its panel on every redraw of the page; only a new size lays the controls out again.
+    if (wide == m_wide && scaleX == m_scaleX && scaleY == m_scaleY && !m_placements.empty() &&
+        m_placements.front().widget->geometry() == placed(m_placements.front().at))
+        return;
     const bool moved = wide != m_wide;
     m_wide = wide;
     m_scaleX = scaleX;
