@@ -247,6 +247,13 @@ void SidePanelsTest::panelChangesReachTheViewsSettings() {
     QCOMPARE(view.spectrogramSettings().dynamicRange, spectrogram.Value());
     spectrogram.OnColorCommand(30145);
     QCOMPARE(view.spectrogramSettings().colourScheme, 0);
+    // While the Limit list is open the buffers captured are thrown away.
+    QFocusEvent in(QEvent::FocusIn, Qt::MouseFocusReason);
+    QApplication::sendEvent(spectrogram.LimitBox(), &in);
+    QVERIFY(view.RecordPaused);
+    QFocusEvent out(QEvent::FocusOut, Qt::MouseFocusReason);
+    QApplication::sendEvent(spectrogram.LimitBox(), &out);
+    QVERIFY(!view.RecordPaused);
     CMyBarra2& spectrum = *view.spectrumPanel();
     spectrum.FftSizeBox()->setCurrentIndex(2);
     spectrum.ApplyFftSize();
