@@ -54,7 +54,11 @@ CAFView::CAFView(Prompt& prompt, QWidget* parent)
     setScreenSize(screen() != nullptr ? screen()->size() : QSize(1024, 768));
 }
 
-CAFView::~CAFView() = default;
+CAFView::~CAFView() {
+    // The panels are destroyed after the view's own part: no hold may reach the view through them then.
+    m_spectrogramPanel->setAudio(nullptr);
+    m_spectrumPanel->setAudio(nullptr);
+}
 
 // ---------------------------------------------------------------------------------------------------------------
 // Layout and state
