@@ -5,6 +5,7 @@
 #include <QIODevice>
 #include <QMediaDevices>
 #include <array>
+#include <utility>
 
 #include "audio/QtAudioFormat.h"
 #include "store/WaveFile.h"
@@ -34,7 +35,9 @@ QtWaveInDevice::~QtWaveInDevice() {
         m_source->stop();
     }
     m_source.reset();
-    m_retired.clear();
+    // Deleting a stream runs the event loop, where the retirement of an earlier close may come due: the list is
+    // emptied before anything in it is deleted, so that no stream is deleted twice.
+    std::exchange(m_retired, {}).clear();
 }
 
 int QtWaveInDevice::open(const WaveFormat& format, WaveInEvents& events) {

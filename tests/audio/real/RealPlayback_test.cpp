@@ -1,5 +1,5 @@
 // Playback on a real PulseAudio server, heard through the monitor of the test null sink: a chunked play sounds the
-// file sample for sample and ends one chunk short.
+// file sample for sample and ends one chunk short; a device closed before anything was played goes quietly.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -55,6 +55,16 @@ TEST(RealPlayback, AChunkedPlaySoundsTheFileAndEndsOneChunkShort) {
     EXPECT_EQ(got, std::vector<std::int16_t>(file.begin() + 3000, file.begin() + played));
     EXPECT_EQ(play.bytePosition, played * 2);
     EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST(RealPlayback, ADeviceClosedBeforeAnythingPlayedGoesAtOnce) {
+    if (!findTestDevices()) GTEST_SKIP() << "no test PulseAudio server";
+    FakePrompt prompt;
+    QtWaveOutDevice device;
+    WavePlayer player{device, prompt};
+    ASSERT_EQ(player.Open(monoFormat(), nullptr), 1);
+    EXPECT_EQ(player.Close(), MMSYSERR_NOERROR);
+    // Both go here, before the event loop runs again: the stream must be deleted once, not twice.
 }
 
 }  // namespace
