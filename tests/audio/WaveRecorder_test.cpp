@@ -112,6 +112,28 @@ TEST_F(WaveRecorderTest, ANewBufferSizeWhileRecordingGoesOnWithoutAGap) {
     EXPECT_EQ(taken(), counting(425, 1));
 }
 
+TEST_F(WaveRecorderTest, TwoCapturesIntoOneDataRootEachKeepAScratchFileOfTheirOwn) {
+    // A second copy of the program recording at the same time into the same data root.
+    FakeWaveInDevice otherDevice;
+    WaveRecorder other{otherDevice, prompt, root.path()};
+    BasicRecordWindow otherWindow{other};
+    start(100);
+    other.SetUpdateRateBytes(100);
+    other.SetOutputPath(root / "other.wav");
+    ASSERT_EQ(other.Start(&otherWindow), 1);
+    capture(100, 1);
+    capture(otherDevice, 150, 5000);
+    stop();
+    other.Stop();
+    other.WaitClosed();
+    EXPECT_EQ(taken(), counting(100, 1));
+    EXPECT_EQ(taken("other.wav"), counting(150, 5000));
+    EXPECT_EQ(other.scratchPath(), root / "grav2.tmp");
+    // Once the first take is written its grav.tmp is free again.
+    start(100, "third.wav");
+    EXPECT_EQ(recorder.scratchPath(), root / "grav.tmp");
+}
+
 TEST_F(WaveRecorderTest, RefusedStartsTellWhyAndLeaveTheDeviceClosed) {
     struct Refusal {
         const char* call;
