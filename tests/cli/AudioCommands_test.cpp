@@ -25,6 +25,7 @@ TEST(AudioCommands, RefusalsNameTheFaultAndAnEmptyPlayEndsQuietly) {
         {"play " + second + " --from 2 --to 3", 2, "the range 2 s to 3 s is not within the recording (0 s to 1 s)\n"},
         {"play " + empty, 0,
          "file," + (dir / "empty.wav").string() + "\nsample_rate,11025\nfirst_value,0\nvalues_played,0\n"},
+        {"record " + quoted(dir / "none/take.wav") + " --seconds 1", 2, (dir / "none").string() + ": no such folder\n"},
         {"record x.wav --seconds 1 --rate 8000", 1, "usage: sonalys-analyze record OUT.wav --seconds N"},
     };
     for (const auto& row : rows) {
