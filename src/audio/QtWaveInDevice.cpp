@@ -3,10 +3,10 @@
 #include <QAudioDevice>
 #include <QAudioSource>
 #include <QIODevice>
-#include <QMediaDevices>
 #include <array>
 #include <utility>
 
+#include "audio/DefaultInput.h"
 #include "audio/QtAudioFormat.h"
 #include "store/WaveFile.h"
 
@@ -44,7 +44,7 @@ int QtWaveInDevice::open(const WaveFormat& format, WaveInEvents& events) {
     if (m_source) return MMSYSERR_ALLOCATED;
     const std::optional<QAudioFormat> qtFormat = toQAudioFormat(format);
     if (!qtFormat) return WAVERR_BADFORMAT;
-    const QAudioDevice device = QMediaDevices::defaultAudioInput();
+    const QAudioDevice device = defaultCaptureDevice();
     if (device.isNull()) return MMSYSERR_BADDEVICEID;
     if (!device.isFormatSupported(*qtFormat)) return WAVERR_BADFORMAT;
 

@@ -1,6 +1,6 @@
 // Capture on a real PulseAudio server: sound written into the test pipe source must come out of the take sample for
-// sample, across a change of buffer size in the middle. Captures end by the count of samples received, never by a
-// clock.
+// sample, across a change of buffer size in the middle, and the capture must listen to the server's default input.
+// Captures end by the count of samples received, never by a clock.
 #include <gtest/gtest.h>
 
 #include <QTimer>
@@ -64,6 +64,19 @@ TEST_F(RealCaptureTest, ATakeArrivesSampleForSampleAcrossANewBufferSize) {
     for (std::size_t i = 1; i < got.size(); ++i)
         ASSERT_EQ(got[i], counting(static_cast<std::size_t>(got[0]) + i - 1)) << i;
     EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(RealCaptureTest, TheServersDefaultInputIsOpenedNotTheFirstListed) {
+    // A silent source made the default: what the pipe carries must not reach the take.
+    const CommandResult loaded = runCommand(
+        "pactl load-module module-null-source source_name=sonalys_silent "
+        "format=s16le rate=11025 channels=1");
+    ASSERT_EQ(loaded.exitCode, 0);
+    runCommand("pactl set-default-source sonalys_silent");
+    const std::vector<std::int16_t> got = captureValues(11025);
+    runCommand("pactl set-default-source " + devices->source + "; pactl unload-module " + loaded.output);
+    ASSERT_GE(got.size(), 11025u);
+    EXPECT_EQ(std::count(got.begin(), got.end(), 0), static_cast<std::ptrdiff_t>(got.size()));
 }
 
 }  // namespace
