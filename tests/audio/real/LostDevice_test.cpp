@@ -24,6 +24,10 @@ TEST(LostDevice, AServerStoppedDuringCaptureEndsItAndKeepsWhatCameBefore) {
     ::setenv("PULSE_SERVER", ("unix:" + (server / "native").string()).c_str(), 1);
     const std::string script = quoted(std::filesystem::path(SONALYS_SOURCE_DIR) / "scripts/pulse-test-server.sh");
     ASSERT_EQ(runCommand(script + " start lost").exitCode, 0);
+    struct StopAtEnd {  // a failing test leaves no server behind
+        std::string script;
+        ~StopAtEnd() { runCommand(script + " stop lost"); }
+    } stopAtEnd{script};
 
     FakePrompt prompt;
     QtWaveInDevice device;
