@@ -153,7 +153,7 @@ TEST_F(WaveRecorderTest, RefusedStartsTellWhyAndLeaveTheDeviceClosed) {
         device.failAt(refusal.call, refusal.nth, refusal.result);
         EXPECT_EQ(recorder.Start(&window), refusal.shown.empty() ? 1 : 0) << refusal.call << refusal.result;
         EXPECT_EQ(prompt.shown, refusal.shown);
-        if (!refusal.shown.empty()) EXPECT_FALSE(device.isOpen());
+        EXPECT_EQ(device.isOpen(), refusal.shown.empty());
         pumpDeviceEvents();
     }
     stop();
