@@ -65,11 +65,13 @@ std::string serverDefaultSource() {
 }  // namespace
 
 QAudioDevice defaultCaptureDevice() {
+    const QAudioDevice qtChoice = QMediaDevices::defaultAudioInput();
 #if defined(SONALYS_WITH_PULSE)
-    if (QMediaDevices::defaultAudioInput().isDefault()) return QMediaDevices::defaultAudioInput();
+    if (qtChoice.isDefault()) return qtChoice;
     const std::string wanted = serverDefaultSource();
+    if (wanted.empty()) return qtChoice;
     for (const QAudioDevice& device : QMediaDevices::audioInputs())
-        if (!wanted.empty() && device.id().toStdString() == wanted) return device;
+        if (device.id().toStdString() == wanted) return device;
 #endif
-    return QMediaDevices::defaultAudioInput();
+    return qtChoice;
 }
