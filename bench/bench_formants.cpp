@@ -1,5 +1,5 @@
 // computeFormants on a recording: by default ten minutes of a synthetic vowel with a gliding pitch at 22050 Hz,
-// or the 16-bit WAV file given with --wav=FILE (bench/formants_vs_snack.sh passes speech made by espeak-ng).
+// or the 16-bit WAV file given with --wav=FILE (bench/formants_vs_praat.sh passes speech made by espeak-ng).
 // The argument is the number of threads.
 #include <benchmark/benchmark.h>
 

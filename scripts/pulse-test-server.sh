@@ -24,8 +24,13 @@ server_up() { pactl info >/dev/null 2>&1; }
 
 has_test_source() { pactl list short sources 2>/dev/null | awk '{print $2}' | grep -qx "$source_name"; }
 
+# The pipe source makes its fifo itself and refuses one that is already there: a server that died without its stop
+# leaves it behind. Only called when no source of ours is loaded, so nothing reads the old fifo any more.
+remove_stale_fifo() { rm -f "$state_dir/capture.fifo"; }
+
 start_server() {
     local config="$state_dir/server.pa" pid
+    remove_stale_fifo
     cat >"$config" <<EOF
 load-module module-native-protocol-unix
 load-module module-null-sink sink_name=$sink_name $spec norewinds=1
@@ -54,6 +59,7 @@ EOF
 
 add_devices() {
     local sink source
+    remove_stale_fifo
     {
         echo "default_sink=$(pactl get-default-sink)"
         echo "default_source=$(pactl get-default-source)"

@@ -16,7 +16,7 @@ packages=(
     libxkbcommon-dev libgl-dev
     libmp3lame-dev libmpg123-dev libfftw3-dev
     fonts-dejavu-core fonts-liberation fonts-liberation2
-    sox libsox-fmt-all espeak-ng gdal-bin dbview tcl-snack
+    sox libsox-fmt-all espeak-ng gdal-bin dbview praat libpulse-dev
     pulseaudio pulseaudio-utils xvfb xauth
 )
 

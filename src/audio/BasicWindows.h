@@ -23,7 +23,7 @@ public:
     std::int64_t bytePosition = 0;  // bytes received while not paused
     int closeEvents = 0;
     std::vector<int> failures;
-    std::function<void(const WaveHeader&)> onBuffer;  // sees each buffer before the engine takes it back
+    std::function<void(WaveHeader&)> onBuffer;  // sees each buffer before the engine takes it back, may shorten it
     std::function<void()> onClosed;
 
     void waveInOpened() override;

@@ -3,9 +3,10 @@
 #include <QAudioDevice>
 #include <QAudioSource>
 #include <QIODevice>
-#include <QMediaDevices>
 #include <array>
+#include <utility>
 
+#include "audio/DefaultInput.h"
 #include "audio/QtAudioFormat.h"
 #include "store/WaveFile.h"
 
@@ -34,14 +35,16 @@ QtWaveInDevice::~QtWaveInDevice() {
         m_source->stop();
     }
     m_source.reset();
-    m_retired.clear();
+    // Deleting a stream runs the event loop, where the retirement of an earlier close may come due: the list is
+    // emptied before anything in it is deleted, so that no stream is deleted twice.
+    std::exchange(m_retired, {}).clear();
 }
 
 int QtWaveInDevice::open(const WaveFormat& format, WaveInEvents& events) {
     if (m_source) return MMSYSERR_ALLOCATED;
     const std::optional<QAudioFormat> qtFormat = toQAudioFormat(format);
     if (!qtFormat) return WAVERR_BADFORMAT;
-    const QAudioDevice device = QMediaDevices::defaultAudioInput();
+    const QAudioDevice device = defaultCaptureDevice();
     if (device.isNull()) return MMSYSERR_BADDEVICEID;
     if (!device.isFormatSupported(*qtFormat)) return WAVERR_BADFORMAT;
 

@@ -5,6 +5,7 @@
 #include <QIODevice>
 #include <QMediaDevices>
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "audio/QtAudioFormat.h"
@@ -37,7 +38,9 @@ QtWaveOutDevice::~QtWaveOutDevice() {
         m_sink->stop();
     }
     m_sink.reset();
-    m_retired.clear();
+    // Deleting a stream runs the event loop, where the retirement of an earlier close may come due: the list is
+    // emptied before anything in it is deleted, so that no stream is deleted twice.
+    std::exchange(m_retired, {}).clear();
 }
 
 int QtWaveOutDevice::query(const WaveFormat& format) {

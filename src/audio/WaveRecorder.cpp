@@ -56,7 +56,8 @@ WaveRecorder::WaveRecorder(WaveInDevice& device, Prompt& prompt, std::filesystem
     : m_device(device),
       m_prompt(prompt),
       m_dataRoot(std::move(dataRoot)),
-      m_ownEvents(std::make_unique<OwnEvents>(*this)) {
+      m_ownEvents(std::make_unique<OwnEvents>(*this)),
+      m_scratchPath(ScratchRecordingPath(m_dataRoot)) {
     SetFormat(kDefaultRecordFormat);
 }
 
@@ -88,13 +89,29 @@ void WaveRecorder::SetOutputPath(const std::filesystem::path& path) {
     m_outputNamed = true;
 }
 
+void WaveRecorder::SetScratchPath(const std::filesystem::path& path) {
+    m_scratchPath = path;
+    m_scratchGiven = true;
+}
+
+// Creates the scratch file afresh: the caller's own, or the first of the data root's that no other capture holds.
+bool WaveRecorder::openScratch() {
+    if (!m_scratchGiven) {
+        if (!m_scratchClaim.claim(m_dataRoot)) return false;
+        m_scratchPath = m_scratchClaim.path();
+    }
+    if (m_temporaryFile.open(m_scratchPath, TempFile::kWriteMode)) return true;
+    m_scratchClaim.release();
+    return false;
+}
+
 int WaveRecorder::Start(WaveInEvents* window) {
     m_finishState = 1;
     m_stopRequested = false;
     m_capturedBytes = 0;
     m_writeFailed = false;
     m_replacedSinceStart = 0;
-    if (!m_temporaryFile.open(scratchPath(), TempFile::kWriteMode)) {
+    if (!openScratch()) {
         m_stopRequested = true;
         m_prompt.showOk(kErrorWritingFile);
         return 0;
@@ -107,6 +124,8 @@ int WaveRecorder::Start(WaveInEvents* window) {
                                 f.nChannels, static_cast<int>(f.nSamplesPerSec), f.wBitsPerSample, f.wFormatTag)
                   << "\n";
         m_stopRequested = true;
+        m_temporaryFile.close();
+        m_scratchClaim.release();
         m_prompt.showOk(waveErrorText(opened));
         return 0;
     }
@@ -160,6 +179,8 @@ void WaveRecorder::resetAndFreeSlots() {
 void WaveRecorder::abandonStart() {
     resetAndFreeSlots();
     closeDevice();
+    m_temporaryFile.close();
+    m_scratchClaim.release();
 }
 
 void WaveRecorder::Stop() {
@@ -269,6 +290,7 @@ void WaveRecorder::finishFile() {
         }
     }
     m_finishState = kFinished;
+    m_scratchClaim.release();
 }
 
 std::vector<std::int16_t> WaveRecorder::CapturedSamples() {

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "audio/ScratchFileClaim.h"
 #include "audio/TempFile.h"
 #include "audio/WaveDevice.h"
 #include "store/RecordingFiles.h"
@@ -55,6 +56,8 @@ public:
     void SetUpdateRateIndex(int index) { m_updateRateIndex = index; }  // kept in the crash marker
     void SetCrashMarkerEnabled(bool enabled) { m_crashMarkerEnabled = enabled; }
     void SetOutputPath(const std::filesystem::path& path);
+    // A scratch file of the caller's own, used in place of the data root's; the caller makes its name unique.
+    void SetScratchPath(const std::filesystem::path& path);
 
     // Creates the scratch file, opens the device with `window` hearing its events (or the engine itself when null),
     // and queues every buffer. 1 when capture runs, 0 after telling the user why not.
@@ -89,7 +92,7 @@ public:
     int updateRateBytes() const noexcept { return m_updateRateBytes; }
     int bufferBytes() const noexcept { return m_updateRateBytes & ~1; }  // an odd size loses its last byte
     int queuedSlots() const noexcept;
-    std::filesystem::path scratchPath() const { return ScratchRecordingPath(m_dataRoot); }
+    const std::filesystem::path& scratchPath() const noexcept { return m_scratchPath; }  // of the last capture
 
 private:
     class OwnEvents;
@@ -98,6 +101,7 @@ private:
         std::unique_ptr<std::uint8_t[]> buffer;
     };
 
+    bool openScratch();
     bool fillSlots();
     void abandonStart();
     void resetAndFreeSlots();
@@ -124,6 +128,9 @@ private:
     std::filesystem::path m_outputPath;
     std::chrono::steady_clock::time_point m_startTick;
     TempFile m_temporaryFile;
+    std::filesystem::path m_scratchPath;
+    bool m_scratchGiven = false;      // the caller chose the scratch file
+    ScratchFileClaim m_scratchClaim;  // held from a start until the take is written
 
     int m_updateRateBytes = kDefaultUpdateRateBytes;
     int m_updateRateIndex = 3;

@@ -2,12 +2,11 @@
 // as the view plays it, in chunks, ending one chunk short; a range given with --from and --to plays as a selection
 // does, in one piece.
 #include <QCoreApplication>
-#include <algorithm>
-#include <cmath>
 #include <iostream>
 #include <string>
 
 #include "Args.h"
+#include "SampleRange.h"
 #include "StreamPrompt.h"
 #include "WaveInput.h"
 #include "audio/BasicWindows.h"
@@ -21,6 +20,11 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: sonalys-analyze play FILE.wav [--from SECONDS --to SECONDS] [--update-bytes N]\n";
+
+void printPlayed(const std::string& path, const MonoInput& input, std::int64_t first, std::int64_t played) {
+    std::cout << "file," << path << "\nsample_rate," << input.format.nSamplesPerSec << "\nfirst_value," << first
+              << "\nvalues_played," << played << "\n";
+}
 
 // Plays samples `first` to `last` of `input`, in one piece for a range and in chunks otherwise, then prints what was
 // played. The sound devices are gone when it returns.
@@ -48,8 +52,7 @@ int playInput(const std::string& path, MonoInput& input, std::int64_t first, std
     QCoreApplication::exec();
     if (!range) played = play.bytePosition / 2;
     if (prompt.shown() > 0) return 2;
-    std::cout << "file," << path << "\nsample_rate," << input.format.nSamplesPerSec << "\nfirst_value," << first
-              << "\nvalues_played," << played << "\n";
+    printPlayed(path, input, first, played);
     return 0;
 }
 
@@ -59,10 +62,8 @@ int runPlay(CommandArgs words) {
     Args args(words, {});
     args.allowOnly({"from", "to", "update-bytes"});
     const bool range = args.has("from") || args.has("to");
-    const double from = args.number("from", 0.0);
-    const double to = args.number("to", 0.0);
     const long long updateBytes = args.integer("update-bytes", kDefaultUpdateRateBytes);
-    if (!args.ok() || args.positional().size() != 1 || updateBytes < 2 || (range && !(0.0 <= from && from < to))) {
+    if (!args.ok() || args.positional().size() != 1 || updateBytes < 2) {
         if (!args.ok()) std::cerr << args.error() << "\n";
         std::cerr << kUsage;
         return 1;
@@ -71,12 +72,18 @@ int runPlay(CommandArgs words) {
     std::optional<MonoInput> input = loadMonoInput(path, std::cerr);
     if (!input) return 2;
     const auto count = static_cast<std::int64_t>(input->samples.size());
-    const double rate = input->format.nSamplesPerSec;
-    const std::int64_t first = range ? std::min<std::int64_t>(std::llround(from * rate), count) : 0;
-    const std::int64_t last = range ? std::min<std::int64_t>(std::llround(to * rate), count) : count;
-    if (range && last <= first) {
-        std::cerr << path << ": the range lies past the end of the file\n";
-        return 2;
+    std::int64_t first = 0;
+    std::int64_t last = count;
+    if (range) {
+        const auto chosen = readSampleRange(args, input->samples.size(), input->format.nSamplesPerSec, std::cerr);
+        if (!chosen) return 2;
+        first = static_cast<std::int64_t>(chosen->first);
+        last = static_cast<std::int64_t>(chosen->end);
+    }
+    // A play of fewer than one sample ends before any device opens, and says nothing.
+    if (last - first < 1) {
+        printPlayed(path, *input, first, 0);
+        return 0;
     }
 
     int argc = 1;

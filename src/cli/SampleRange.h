@@ -14,6 +14,6 @@ struct SampleRange {
     std::size_t end = 0;
 };
 
-// The range within a recording of `count` samples at `rate` Hz; the whole recording by default. An empty range
-// or one outside the recording is refused with a message on `errors`.
+// The range within a recording of `count` samples at `rate` Hz; the whole recording by default. A range that is
+// empty, reaches outside the recording or holds no whole sample is refused with a message on `errors` that says which.
 std::optional<SampleRange> readSampleRange(Args& args, std::size_t count, int rate, std::ostream& errors);

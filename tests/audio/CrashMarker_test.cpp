@@ -1,4 +1,4 @@
-// The crash marker as the next start reads it, and the scratch file's answers to a write.
+// The crash marker as the next start reads it.
 #include "audio/CrashMarker.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +7,6 @@
 
 #include "FakePrompt.h"
 #include "TempDir.h"
-#include "audio/TempFile.h"
 
 namespace {
 
@@ -39,30 +38,6 @@ TEST(CrashMarker, ACaptureThatNeverEndedWarnsOnceAndKeepsTheUpdateRate) {
     root.write("sy1.log", std::string("\0\0\0\0", 4));
     EXPECT_EQ(takeCrashMarker(root.path(), prompt), -1);
     EXPECT_EQ(prompt.shown.size(), 2u);
-}
-
-TEST(TempFile, AWriteAnswersOneForAllZeroForShortAndMinusOneWithNoFile) {
-    TempDir root;
-    TempFile file;
-    const char bytes[5] = {1, 2, 3, 4, 5};
-    EXPECT_EQ(file.write(bytes, 5), -1);
-    EXPECT_EQ(file.size(), -1);
-    ASSERT_TRUE(file.open(root / "grav.tmp", TempFile::kWriteMode));
-    EXPECT_EQ(file.write(bytes, 5), 1);
-    EXPECT_EQ(std::filesystem::file_size(root / "grav.tmp"), 5u);  // on disk before any close
-    EXPECT_EQ(file.size(), 5);
-    file.rewind();
-    char back[5] = {};
-    EXPECT_EQ(file.read(back, 5), 5u);
-    EXPECT_EQ(std::string(back, 5), std::string(bytes, 5));
-
-    // Opening for reading closes the file first; a file that is not there does not open.
-    EXPECT_FALSE(file.open(root / "missing.tmp", TempFile::kReadMode));
-    EXPECT_FALSE(file.isOpen());
-    if (std::filesystem::exists("/dev/full")) {
-        ASSERT_TRUE(file.open("/dev/full", TempFile::kWriteMode));
-        EXPECT_EQ(file.write(bytes, 5), 0);
-    }
 }
 
 }  // namespace

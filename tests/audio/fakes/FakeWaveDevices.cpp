@@ -2,23 +2,10 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <cstring>
 
-void ScriptedResults::failAt(int call, int result) {
-    if (static_cast<int>(m_results.size()) < call) m_results.resize(static_cast<std::size_t>(call), MMSYSERR_NOERROR);
-    m_results[static_cast<std::size_t>(call - 1)] = result;
-}
-
-int ScriptedResults::next() {
-    if (m_results.empty()) return MMSYSERR_NOERROR;
-    const int result = m_results.front();
-    m_results.pop_front();
-    return result;
-}
-
 int FakeWaveInDevice::start() {
-    if (const int result = scripted("start", startResults)) return result;
+    if (const int result = scripted("start")) return result;
     if (!m_open) return MMSYSERR_INVALHANDLE;
     started = true;
     deliver();

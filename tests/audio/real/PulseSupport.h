@@ -1,6 +1,6 @@
 // What the tests against a real PulseAudio server share: finding the test devices that
-// scripts/pulse-test-server.sh sets up, feeding sound into the pipe source at a microphone's pace, recording what the
-// null sink plays, speech made with espeak-ng, and a private server a test may stop.
+// scripts/pulse-test-server.sh sets up, feeding sound into the pipe source at a microphone's pace, and recording what
+// the null sink plays.
 #pragma once
 
 #include <QProcess>
@@ -24,24 +24,22 @@ struct TestDevices {
     std::string sink;
     int rate = 0;  // of the pipe: the sound written is what a capture at this rate receives
 };
-std::optional<TestDevices> findTestDevices(const std::string& server = {});
+std::optional<TestDevices> findTestDevices();
 
 // Throws away what an earlier test left in the pipe, so that a capture starts with what this test feeds.
 void drainPipe(const std::filesystem::path& fifo);
 
-// Writes sound into a named pipe block by block at the pace of real time, as a microphone delivers it, until stopped
-// or the sound runs out. Notes when each block went in.
+// Writes sound into a named pipe a millisecond at a time at the pace of real time, as a microphone delivers it,
+// until stopped or the sound runs out. Notes when each millisecond went in.
 class PipeFeeder {
 public:
     using Clock = std::chrono::steady_clock;
     PipeFeeder(std::filesystem::path fifo, int rate, std::function<std::int16_t(std::size_t)> sound,
                std::size_t length);
-    ~PipeFeeder();
+    ~PipeFeeder() { stop(); }
     void stop();
-    std::size_t written() const { return m_written; }
-    // When the sample at `index` went into the pipe.
-    Clock::time_point writtenAt(std::size_t index) const;
-    double cpuSeconds() const { return m_cpuSeconds; }  // the feeder's own processor time
+    Clock::time_point writtenAt(std::size_t index) const;  // when the sample at `index` went into the pipe
+    double cpuSeconds() const { return m_cpuSeconds; }     // the feeder's own processor time
 
 private:
     void run();
@@ -51,19 +49,17 @@ private:
     std::function<std::int16_t(std::size_t)> m_sound;
     std::size_t m_length;
     std::atomic<bool> m_stop{false};
-    std::atomic<std::size_t> m_written{0};
     mutable std::mutex m_timesLock;
-    std::vector<Clock::time_point> m_blockTimes;  // one per block of m_block samples
-    std::size_t m_block;
+    std::vector<Clock::time_point> m_blockTimes;  // one per millisecond block
     std::atomic<double> m_cpuSeconds{0.0};
     std::thread m_thread;
 };
 
-// Records the monitor of a sink with parec, raw 16-bit mono at `rate`.
+// Records the monitor of a sink with parec, raw 16-bit mono at `rate`, until stop() gives what it heard.
 class MonitorRecording {
 public:
     MonitorRecording(const std::string& sink, int rate, std::filesystem::path file);
-    ~MonitorRecording();
+    ~MonitorRecording() { stop(); }
     bool started() const { return m_started; }
     std::vector<std::int16_t> stop();
 
@@ -72,25 +68,6 @@ private:
     std::filesystem::path m_file;
     bool m_started = false;
 };
-
-// A PulseAudio server of the test's own, on its own socket, with the same two devices; the process's audio goes to
-// it from the moment it is started (set before any sound device is touched).
-class PrivatePulseServer {
-public:
-    explicit PrivatePulseServer(std::filesystem::path folder);
-    ~PrivatePulseServer();
-    bool running() const { return m_running; }
-    const std::filesystem::path& fifo() const { return m_fifo; }
-    void stop();
-
-private:
-    QProcess m_process;
-    std::filesystem::path m_fifo;
-    bool m_running = false;
-};
-
-// Spoken English from espeak-ng, as 16-bit mono at `rate` (through sox), or empty when either tool is missing.
-std::vector<std::int16_t> makeSpeech(const std::filesystem::path& folder, int rate, const std::string& text);
 
 // Runs the event loop for `milliseconds`.
 void runEventLoop(int milliseconds);

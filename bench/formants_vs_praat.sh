@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Formant tracking speed side by side: Sonalys's computeFormants against Snack's ESPS formant tracker
-# (tcl-snack, `snd formant`), both timed without file loading, on the same ten minutes and more of 22050 Hz
-# speech made by espeak-ng. Usage: bench/formants_vs_snack.sh [BUILD_FOLDER]
+# Formant tracking speed side by side: Sonalys's computeFormants against Praat's `To Formant (burg)`, both timed
+# without file loading, on the same ten minutes of 22050 Hz speech made by espeak-ng.
+# Usage: bench/formants_vs_praat.sh [BUILD_FOLDER]
 set -euo pipefail
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-build="${1:-$here/build}"
+build="$(cd "${1:-$here/build}" && pwd)"  # absolute: Praat reads paths from its script's folder
 work="$build/bench-speech"
 mkdir -p "$work"
 speech="$work/speech.wav"
@@ -23,12 +23,12 @@ if [ ! -s "$speech" ]; then
 fi
 
 seconds="$(soxi -D "$speech")"
-read -r snackFrames snackTime < <(tclsh "$here/bench/snack_formant.tcl" "$speech" 3 2>/dev/null)
+read -r praatFrames praatTime < <(praat --run "$here/bench/praat_formant.praat" "$speech" 3)
 ours="$("$build/bench/bench_formants" --wav="$speech" --benchmark_repetitions=3 \
     --benchmark_report_aggregates_only=true --benchmark_format=csv 2>/dev/null | grep '_median')"
 
 printf 'Formant tracking of %.1f s of 22050 Hz speech, file loading excluded\n' "$seconds"
-printf '  %-42s %7.3f s  (%d frames)\n' "Snack snd formant, best of 3" "$snackTime" "$snackFrames"
-echo "$ours" | awk -F, -v snack="$snackTime" '{
+printf '  %-42s %7.3f s  (%d frames)\n' "Praat To Formant (burg), best of 3" "$praatTime" "$praatFrames"
+echo "$ours" | awk -F, -v praat="$praatTime" '{
     name = $1; gsub(/"|BM_|\/real_time_median/, "", name); seconds = $3 / 1000;
-    printf "  %-42s %7.3f s  %.1f times faster\n", name ", median of 3", seconds, snack / seconds }'
+    printf "  %-42s %7.3f s  %.1f times faster\n", name ", median of 3", seconds, praat / seconds }'
