@@ -1,5 +1,6 @@
 #include "view/GraphCaptions.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QPainter>
@@ -72,9 +73,12 @@ void DrawGraphFrame(QPainter& painter, const ViewLayout& layout) {
 }
 
 void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mode, const QString& duration) {
-    const double width = layout.pageSize().width();
+    // The band runs across the whole window, also where the page, kept in shape, leaves room at its sides.
+    const QRectF window = painter.worldTransform().inverted().mapRect(QRectF(painter.viewport()));
     painter.save();
-    painter.fillRect(QRectF(0, 0, width, layout.TitleTop + layout.TitleHeight), QColor::fromRgb(kTextRowColour));
+    painter.fillRect(QRectF(QPointF(window.left(), std::min(0.0, window.top())),
+                            QPointF(window.right(), layout.TitleTop + layout.TitleHeight)),
+                     QColor::fromRgb(kTextRowColour));
     painter.setPen(Qt::black);
     painter.setFont(CaptionFont());
     const int top = captionTop(layout);

@@ -22,7 +22,7 @@ class ViewPartsTest : public QObject {
 private slots:
     void theSmallLayoutServesScreensExactly800WideOr600High();
     void theLargeLayoutMovesByHalfTheSizeAboveTheReference();
-    void thePageFillsTheWidgetAndPositionsMapBack();
+    void thePageKeepsItsShapeCentredAndPositionsMapBack();
     void stripSamplesStayInsideTheStripAtBothExtremes();
     void eachStripColumnTakesEightPointsAtEvenFractionsAndMissesWhatLiesBetween();
     void aRangeShorterThanTheStripRepeatsSamples();
@@ -69,17 +69,18 @@ void ViewPartsTest::theLargeLayoutMovesByHalfTheSizeAboveTheReference() {
     QCOMPARE(ViewLayout::forScreen({1281, 1025}).GraphLeft, 140 + 128);  // 257 x 0.5, truncated
 }
 
-void ViewPartsTest::thePageFillsTheWidgetAndPositionsMapBack() {
+void ViewPartsTest::thePageKeepsItsShapeCentredAndPositionsMapBack() {
     const ViewLayout layout = ViewLayout::forScreen({1024, 768});
     QCOMPARE(layout.pageSize(), QSizeF(1024, 600));  // 768 less the window's 102, over 1.11
     // On a widget of the reference size, the stretch of the large layout is 111 / 100.
-    const QSizeF widget(1024, 666);
-    QCOMPARE(layout.toWidget(widget).map(QPointF(140, 150)), QPointF(140, 166.5));
-    QCOMPARE(layout.toPage(QPointF(512, 333), widget), QPointF(512, 300));
-    // Any other size fills the widget in both directions.
-    const QSizeF half(512, 300);
-    QCOMPARE(layout.toWidget(half).map(QPointF(1024, 600)), QPointF(512, 300));
-    QCOMPARE(layout.toPage(QPointF(70, 75), half), QPointF(140, 150));
+    QCOMPARE(layout.toWidget({1024, 666}).map(QPointF(140, 150)), QPointF(140, 166.5));
+    // A wide, low window: the page is as high as the window, the same scale across, centred.
+    const double across = (1200 - 1024 * 500 / 666.0) / 2;
+    QCOMPARE(layout.toWidget({1200, 500}).map(QPointF(0, 0)), QPointF(across, 0));
+    QCOMPARE(layout.toWidget({1200, 500}).map(QPointF(1024, 600)), QPointF(1200 - across, 500));
+    // A tall, narrow one: as wide as the window, centred down.
+    QCOMPARE(layout.toWidget({800, 1000}).map(QPointF(0, 0)), QPointF(0, (1000 - 666 * 800 / 1024.0) / 2));
+    QCOMPARE(layout.toPage(layout.toWidget({1200, 500}).map(QPointF(140, 150)), {1200, 500}), QPointF(140, 150));
     QCOMPARE(m_small.pageSize(), QSizeF(800, 498));
     QCOMPARE(m_small.toWidget(QSizeF(800, 498)).map(QPointF(92, 100)), QPointF(92, 100));
 }
