@@ -91,6 +91,7 @@ private slots:
     void theAverageIsRedUnlessTheCurveIsRed();
     void dbLabelsStateTheLevelOfTheirPosition();
     void khzLabelsStandAtEleventhsAndEndAtTheLimit();
+    void theLastTwoKhzLabelsStandApartOnTheSmallLayout();
     void frequencyLabelsStandAtRoundFrequencies();
 };
 
@@ -200,6 +201,25 @@ void AnalysisPicturesTest::khzLabelsStandAtEleventhsAndEndAtTheLimit() {
     QCOMPARE(labelTexts(KhzAxisLabels({100, 0, 900, 300}, 5512.0)),
              QStringList({"100 0,0 kHz", "245 1,0 kHz", "390 2,0 kHz", "536 3,0 kHz", "681 4,0 kHz", "827 5,0 kHz",
                           "900 5,5 kHz"}));
+}
+
+void AnalysisPicturesTest::theLastTwoKhzLabelsStandApartOnTheSmallLayout() {
+    const SpectrumArea area{93, 100, 93 + 671, 400};  // the graph of an 800 x 600 screen
+    QImage image(900, 450, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    DrawSpectrumAxes(painter, area, 7350.0);  // "6,7 kHz" and "7,3 kHz" at the right end
+    painter.end();
+    // Clusters of ink under the graph from the fifth tick on, apart by 6 blank columns or more: one a label.
+    int clusters = 0;
+    int blank = 6;
+    for (int x = KhzAxisLabels(area, 7350.0)[5].at - 45; x < image.width(); ++x) {
+        bool ink = false;
+        for (int y = area.bottom + 6; y < area.bottom + 22; ++y) ink = ink || qGray(image.pixel(x, y)) < 128;
+        clusters += ink && blank >= 6;
+        blank = ink ? 0 : blank + 1;
+    }
+    QCOMPARE(clusters, 2);
 }
 
 void AnalysisPicturesTest::frequencyLabelsStandAtRoundFrequencies() {

@@ -30,6 +30,7 @@ private slots:
     void theStripFrameIsWhiteWithAnOutlineAndThreeGuideLines();
     void theDurationSplitsMinutesAboveAMinuteAndNeverShowsHours();
     void formatFileAndTimeAxisTexts();
+    void theCaptionIsWholeAndTheFormatLineStaysInTheBand();
     void readOutsUseTheShownRangeAndTheTopFrequency();
     void theReadOutBoxGoesLeftNearTheRightEndAndStaysInTheGraph();
     void aSelectionBecomesARangeOfSamples();
@@ -179,6 +180,37 @@ void ViewPartsTest::formatFileAndTimeAxisTexts() {
     QCOMPARE(TimeAxisLabel(0, 90469, 22050, 6), std::string("4,10 s"));
     QCOMPARE(TimeAxisLabel(22050, 44100, 22050, 3), std::string("1,50 s"));  // 1 + 3 x (1 / 6)
     QCOMPARE(TimeAxisLabel(11025, 11025, 11025, 5), std::string("1,00 s"));
+}
+
+// The rows of `image` holding dark ink between columns `left` and `right`, first and last.
+static std::pair<int, int> inkRows(const QImage& image, int left, int right) {
+    std::pair<int, int> rows{-1, -1};
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = left; x < right; ++x)
+            if (qGray(image.pixel(x, y)) < 128) rows = {rows.first < 0 ? y : rows.first, y};
+    return rows;
+}
+
+void ViewPartsTest::theCaptionIsWholeAndTheFormatLineStaysInTheBand() {
+    for (const QSize screen : {QSize(800, 600), QSize(1024, 768)}) {
+        const ViewLayout layout = ViewLayout::forScreen(screen);
+        QImage page(layout.pageSize().toSize(), QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QImage free = page;
+        QPainter painter(&page);
+        DrawCaptionRow(painter, layout, M::FileSpectrogramMode, "00:00:04,102");
+        DrawFormatLine(painter, layout, "22050 Hz, 16 Bits Mono");
+        painter.end();
+        painter.begin(&free);  // the caption drawn with nothing to cut it
+        painter.setFont(CaptionFont());
+        painter.drawText(QPoint(layout.GraphLeft - 80, 200), "Spectrogram");
+        painter.end();
+        const auto [top, bottom] = inkRows(page, layout.GraphLeft - 80, layout.GraphLeft - 40);
+        const auto [freeTop, freeBottom] = inkRows(free, layout.GraphLeft - 80, layout.GraphLeft - 40);
+        QCOMPARE(bottom - top, freeBottom - freeTop);
+        const int lineLeft = 176 + layout.XOffset;
+        QCOMPARE(page.pixel(2, inkRows(page, lineLeft, lineLeft + 100).second), kTextRowColour);
+    }
 }
 
 void ViewPartsTest::readOutsUseTheShownRangeAndTheTopFrequency() {
