@@ -47,7 +47,7 @@ private slots:
     void brokenRecordingWarnsOnceAndKeepsTheUpdateRate();
     void theScreenIsCheckedAndAPoorOneStopsTheStart();
     void fixedSizeLargerThanTheScreenIsRefusedButStartGoesOn();
-    void splashClosesOnTheFirstKeyOrClickOrAfterTwoSeconds();
+    void splashStaysCentredAndClosesOnAKeyAClickOrAfterTwoSeconds();
     void languageCommandsWriteLangDatAndFollowTheRecording();
     void exitAsksFirstAndTheStatusBarShowsBusyTexts();
     void aboutBoxShowsVersionMemoryAndSystem();
@@ -170,14 +170,20 @@ void CAFAppTest::fixedSizeLargerThanTheScreenIsRefusedButStartGoesOn() {
     QVERIFY(program.frame().isVisible());
 }
 
-void CAFAppTest::splashClosesOnTheFirstKeyOrClickOrAfterTwoSeconds() {
+void CAFAppTest::splashStaysCentredAndClosesOnAKeyAClickOrAfterTwoSeconds() {
     QWidget window;
     auto* edit = new QLineEdit(&window);
-    window.resize(800, 600);
+    window.setGeometry(40, 30, 800, 600);
     window.show();
     edit->setFocus();
     QPointer<CSplashWnd> splash = CSplashWnd::ShowSplashScreen(&window, LanguageId::English);
-    QVERIFY(splash->isVisible());
+    const auto centred = [&] {
+        return QRect(splash->mapToGlobal(QPoint(0, 0)), splash->size()).center() ==
+               QRect(window.mapToGlobal(QPoint(0, 0)), window.size()).center();
+    };
+    QVERIFY(splash->isVisible() && centred());
+    window.setGeometry(0, 0, 1200, 900);  // maximised once the desktop has placed it
+    QVERIFY(centred());
     QTest::keyClick(edit, Qt::Key_A);
     QTRY_VERIFY(splash.isNull());
     QCOMPARE(edit->text(), QString());  // the key that closed the splash typed nothing
