@@ -68,6 +68,9 @@ void CAFAppTest::startsInEnglishWhateverLangDatSays() {
         QVERIFY(program.prompt.shown.empty());
         // A first start in an empty data root makes the client table without a word.
         QVERIFY(std::filesystem::exists(home / "pacb.dbf"));
+        // Out of the maximised state the window is still large enough for the small layout.
+        program.frame().showNormal();
+        QVERIFY(program.frame().width() >= 800 && program.frame().height() >= 600);
     }
 }
 
