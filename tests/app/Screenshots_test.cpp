@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QPainter>
-#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -15,7 +14,6 @@
 #include "app/CAbrirPaciente.h"
 #include "app/CAbrirSessao.h"
 #include "app/CPaciente.h"
-#include "app/CSplashWnd.h"
 #include "clients/CPacienteTable.h"
 #include "controls/ReportList.h"
 #include "view/CAFView.h"
@@ -114,10 +112,6 @@ void ScreenshotsTest::mainWindowAndDialogs() {
     verifyTextsFit(&about);
     QVERIFY(onScreen(frame, &about).save(folder + "/about" + suffix));
     about.close();
-
-    QPointer<CSplashWnd> splash = CSplashWnd::ShowSplashScreen(&frame, LanguageId::English);
-    QVERIFY(onScreen(frame, nullptr).save(folder + "/splash" + suffix));
-    splash->close();
 
     frame.CurrentClient = table.EntryAt(0)->record;
     CAbrirSessao recordings(frame.CurrentClient, root.path(), LanguageId::English, program.prompt, false, &frame);
