@@ -80,8 +80,6 @@ void CPacienteTest::birthDateIsTypedInTheLanguagesOrder_data() {
         << LanguageId::Korean << "year" << QStringList{"1975", "03", "14"} << QStringList{"month", "day", "address"};
     QTest::newRow("Spanish: day, month, year")
         << LanguageId::Spanish << "day" << QStringList{"14", "03", "1975"} << QStringList{"month", "year", "address"};
-    QTest::newRow("Portuguese: day, month, year") << LanguageId::Portuguese << "day" << QStringList{"14", "03", "1975"}
-                                                  << QStringList{"month", "year", "address"};
 }
 
 void CPacienteTest::birthDateIsTypedInTheLanguagesOrder() {
@@ -145,21 +143,19 @@ void CPacienteTest::okChecksNameTypeAndDateInOrder() {
     Form form(CPaciente::InsertMode, makeRecord({1, ""}));
     form.typeInto("name", "A");
     form.ok();
-    QCOMPARE(form.prompt.last(), std::string("You need to type the client´s name!"));
     form.typeInto("name", "n");
     form.ok();
-    QCOMPARE(form.prompt.last(), std::string("The Client is Man/Woman, Singer or Child?"));
     form.check("child");
     form.typeInto("day", "12");
     form.typeInto("month", "05");
     form.ok();
-    QCOMPARE(form.prompt.last(), std::string("Invalid Year (it must have 4 digits)\nSample.: 1974"));
+    QCOMPARE(form.prompt.shown, (std::vector<std::string>{"You need to type the client´s name!",
+                                                          "The Client is Man/Woman, Singer or Child?",
+                                                          "Invalid Year (it must have 4 digits)\nSample.: 1974"}));
     QCOMPARE(form.dialog->focusWidget()->objectName(), QString("year"));
-    QVERIFY(form.dialog->isVisible());
     QVERIFY(readDbfRows(form.root / "pacb.dbf").empty());
     form.type("2015");
     form.ok();
-    QCOMPARE(form.prompt.shown.size(), std::size_t(3));
     QCOMPARE(form.dialog->result(), int(QDialog::Accepted));
     QCOMPARE(form.dialog->record().Tipo, 2);
 }
