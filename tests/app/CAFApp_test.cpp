@@ -17,7 +17,6 @@
 #include "TempDir.h"
 #include "app/CAFApp.h"
 #include "app/CAboutDlg.h"
-#include "app/CConfiguraCores.h"
 #include "app/CMainFrame.h"
 #include "app/CSplashWnd.h"
 #include "app/HelpBrowser.h"
@@ -25,7 +24,6 @@
 #include "app/RecentFileList.h"
 #include "app/ScreenCheck.h"
 #include "audio/CrashMarker.h"
-#include "controls/UiText.h"
 #include "view/CAFView.h"
 
 namespace {

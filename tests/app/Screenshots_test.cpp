@@ -88,38 +88,28 @@ void ScreenshotsTest::mainWindowAndDialogs() {
     const QString suffix = QString("-%1x%2.png").arg(size.width()).arg(size.height());
     const QString folder = pictureFolder();
     QVERIFY(onScreen(frame, nullptr).save(folder + "/main-window" + suffix));
-
+    // Each dialog over the window: its texts whole, itself on the screen.
+    const auto shoot = [&](QDialog& dialog, const char* name) {
+        dialog.show();
+        verifyTextsFit(&dialog);
+        QVERIFY(dialog.width() <= screen.width() && dialog.height() <= screen.height());
+        QVERIFY(onScreen(frame, &dialog).save(folder + "/" + name + suffix));
+        dialog.close();
+    };
     CAbrirPaciente clients(frame);
-    clients.show();
     clients.list()->selectRow(0);
-    verifyTextsFit(&clients);
-    QVERIFY(clients.width() <= screen.width() && clients.height() <= screen.height());
-    QVERIFY(onScreen(frame, &clients).save(folder + "/client-list" + suffix));
-    clients.close();
-
+    shoot(clients, "client-list");
     CPacienteTable& table = frame.table();
     table.LoadClients("CODIGO=1");
-    CPaciente form(CPaciente::EditMode, table.EntryAt(0)->record, table, frame.CurrentClient, root.path(),
-                   LanguageId::English, program.prompt, &frame);
-    form.show();
-    verifyTextsFit(&form);
-    QVERIFY(form.width() <= screen.width() && form.height() <= screen.height());
-    QVERIFY(onScreen(frame, &form).save(folder + "/client-form" + suffix));
-    form.close();
-
-    CAboutDlg about(true, &frame);
-    about.show();
-    verifyTextsFit(&about);
-    QVERIFY(onScreen(frame, &about).save(folder + "/about" + suffix));
-    about.close();
-
     frame.CurrentClient = table.EntryAt(0)->record;
+    CPaciente form(CPaciente::EditMode, frame.CurrentClient, table, frame.CurrentClient, root.path(),
+                   LanguageId::English, program.prompt, &frame);
+    shoot(form, "client-form");
+    CAboutDlg about(true, &frame);
+    shoot(about, "about");
     CAbrirSessao recordings(frame.CurrentClient, root.path(), LanguageId::English, program.prompt, false, &frame);
-    recordings.show();
     recordings.list()->selectRow(0);
-    verifyTextsFit(&recordings);
-    QVERIFY(onScreen(frame, &recordings).save(folder + "/recording-list" + suffix));
-    recordings.close();
+    shoot(recordings, "recording-list");
 
     // A recording chosen from the list, on the window's view, laid out for a screen of this size.
     frame.view()->setScreenSize(screen);
