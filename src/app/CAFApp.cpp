@@ -112,6 +112,8 @@ void CAFApp::showMainWindow() {
     const QSize whole = screen != nullptr ? screen->size() : QSize();
     const QRect available = screen != nullptr ? screen->availableGeometry() : QRect();
     const bool wished = FixedSizeOfScreenMode(ScreenMode).has_value();
+    // A maximised window remembers the size it had before; without one it would fall back to a tiny one.
+    if (!available.isEmpty()) m_frame->setGeometry(RestoredWindowGeometry(available));
     if (wished && (whole.width() < FixedScreenWidth || whole.height() < FixedScreenHeight)) {
         m_prompt.showOk(kCannotSetResolution);
         m_frame->showMaximized();

@@ -13,19 +13,21 @@ constexpr QSize kPictureSize(480, 300);
 CSplashWnd* CSplashWnd::ShowSplashScreen(QWidget* mainWindow, LanguageId language) {
     auto* splash = new CSplashWnd(mainWindow, language);
     splash->show();
-    splash->raise();
+    splash->raise();  // over the view and the bars
     return splash;
 }
 
+// The splash lies inside the main window rather than in a window of its own: a desktop places a new window where
+// it likes (often the screen's corner) and the main window is maximised only after it is shown, so only a picture
+// that the main window carries stays centred on it.
 CSplashWnd::CSplashWnd(QWidget* mainWindow, LanguageId language)
-    : QWidget(mainWindow, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+    : QWidget(mainWindow, mainWindow != nullptr ? Qt::Widget : Qt::SplashScreen | Qt::FramelessWindowHint),
       m_picture(QIcon(":/app/splash.svg").pixmap(kPictureSize, devicePixelRatioF())),
       // The Spanish text is longer; it is written higher up and further left.
       m_textAt(language == LanguageId::Spanish ? QPoint(200, 40) : QPoint(300, 190)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setFixedSize(kPictureSize);
-    const QRect area = mainWindow != nullptr ? mainWindow->geometry() : QRect(QPoint(0, 0), kPictureSize);
-    move(area.center() - QPoint(kPictureSize.width() / 2, kPictureSize.height() / 2));
+    centre();
     qApp->installEventFilter(this);
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &QWidget::close);
@@ -40,8 +42,15 @@ void CSplashWnd::paintEvent(QPaintEvent*) {
     painter.drawText(m_textAt + QPoint(0, metrics.ascent()), uiText(kSplashWait));
 }
 
+void CSplashWnd::centre() {
+    if (parentWidget() != nullptr) move(parentWidget()->rect().center() - rect().center());
+}
+
 bool CSplashWnd::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
+    case QEvent::Resize:
+        if (watched == parentWidget()) centre();
+        return false;
     case QEvent::KeyPress:
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

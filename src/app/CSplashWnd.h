@@ -1,5 +1,5 @@
-// The picture shown over the main window while the program starts. It goes after two seconds, or at once when
-// a key or a mouse button goes down anywhere in the program; that key or click does nothing else.
+// The picture shown in the middle of the main window while the program starts. It goes after two seconds, or at
+// once when a key or a mouse button goes down anywhere in the program; that key or click does nothing else.
 #pragma once
 
 #include <string_view>
@@ -26,6 +26,8 @@ protected:
 
 private:
     CSplashWnd(QWidget* mainWindow, LanguageId language);
+    // In the middle of the main window, again whenever that window changes size.
+    void centre();
 
     QPixmap m_picture;
     QPoint m_textAt;

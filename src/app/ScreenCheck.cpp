@@ -17,3 +17,12 @@ std::optional<ScreenSize> FixedSizeOfScreenMode(int screenMode) {
     default: return std::nullopt;
     }
 }
+
+QRect RestoredWindowGeometry(const QRect& available) {
+    const ScreenSize small = *FixedSizeOfScreenMode(0);
+    const QSize size =
+        (available.size() * 3 / 4).expandedTo(QSize(small.width, small.height)).boundedTo(available.size());
+    return QRect(
+        available.topLeft() + QPoint((available.width() - size.width()) / 2, (available.height() - size.height()) / 2),
+        size);
+}

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include <QRect>
 #include <QtGlobal>
 
 struct ScreenInfo {
@@ -28,6 +29,10 @@ struct ScreenSize {
 // ScreenMode 0 to 3 names a fixed size (800 x 600, 1024 x 768, 1280 x 800, 1280 x 1024); any other value means
 // "take the screen as it is". We never change the display's mode: a fixed size is a wish for the main window.
 std::optional<ScreenSize> FixedSizeOfScreenMode(int screenMode);
+
+// Where the main window stands when it leaves the maximised state: three quarters of the room the desktop gives,
+// never less than the small layout's 800 x 600 unless that room itself is smaller, in the middle of the room.
+QRect RestoredWindowGeometry(const QRect& available);
 
 inline constexpr std::string_view kResolutionBetweenLayouts = QT_TRANSLATE_NOOP(
     "Sonalys",

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 
+#include "controls/CellFont.h"
 #include "controls/DecimalText.h"
 #include "store/TextFormat.h"
 
@@ -37,12 +38,7 @@ void drawVerticalLabels(QPainter& painter, const SpectrumArea& area, const std::
 
 }  // namespace
 
-QFont AxisFont(bool twoViews) {
-    QFont font("Arial");
-    font.setPixelSize(twoViews ? 10 : 11);
-    font.setBold(!twoViews);
-    return font;
-}
+QFont AxisFont(bool twoViews) { return CellHeightFont("Arial", twoViews ? 10 : 11, !twoViews); }
 
 int VerticalLabelCount(const SpectrumArea& area) { return area.height() < 300 ? 5 : 9; }
 

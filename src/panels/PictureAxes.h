@@ -21,7 +21,7 @@ struct AxisLabel {
     std::string text;
 };
 
-// Arial, 11 pixels high and bold; 10 and regular when two views share the window.
+// Arial, lines 11 pixels high and bold; 10 and regular when two views share the window.
 QFont AxisFont(bool twoViews = false);
 
 // Labels up the height: 9, or 5 when the graph is under 300 pixels high, at equal steps over the height less 6.

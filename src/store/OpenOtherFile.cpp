@@ -45,6 +45,7 @@ OtherFileOpening OpenOtherFile(LoadedRecording& recording, const std::filesystem
     recording.RecordingNumber = kOutsideRecordingNumber;
     recording.RecordingPath = path;
     recording.Modified = false;
-    const std::string name = path.string();
+    // The title names the file alone, as the file line does: its folders are no business of the window's title.
+    const std::string name = path.filename().string();
     return {OtherFileResult::Opened, formatText(kOtherFileTitle.data(), name.c_str())};
 }

@@ -35,7 +35,7 @@ enum class OtherFileResult {
 
 struct OtherFileOpening {
     OtherFileResult result = OtherFileResult::Unreadable;
-    std::string title;  // "File - %s" with the path, when opened
+    std::string title;  // "File - %s" with the file's name, when opened
 };
 
 // Loads `path` into `recording` and applies the tests of this path. A stereo file asks `chooseStereo` and is

@@ -1,28 +1,30 @@
 #include "view/GraphCaptions.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QPainter>
 
+#include "controls/CellFont.h"
 #include "controls/DecimalText.h"
 #include "controls/UiText.h"
 #include "store/TextFormat.h"
 
 namespace {
 
-QFont font(const char* face, int pixels, bool bold) {
-    QFont f(QString::fromLatin1(face));
-    f.setPixelSize(pixels);
-    f.setBold(bold);
-    return f;
-}
-
 QString text(std::string_view english) { return uiText(english); }
 
-// Where the caption row's texts start: 5 pixels into the row on the small layout, 20 on the large one.
+// Where the caption row's texts start: 5 pixels into the row on the small layout, 20 on the large one. The boxes
+// are as high as the lines of their fonts, so that no descender is cut.
 int captionTop(const ViewLayout& layout) { return layout.TitleTop + (layout.LargeLayout ? 20 : 5); }
 constexpr int kCaptionHeight = 25;
-constexpr int kLineHeight = 15;
+constexpr int kLineHeight = 13;
+
+// The small layout's row is lower than the caption and the format line under it: the band reaches down to hold
+// them both.
+int captionBandBottom(const ViewLayout& layout) {
+    return std::max(layout.TitleTop + layout.TitleHeight, captionTop(layout) + kCaptionHeight + kLineHeight);
+}
 
 }  // namespace
 
@@ -57,10 +59,10 @@ std::string TimeAxisLabel(std::int64_t first, std::int64_t last, int rate, int i
     return DecimalText(seconds, 2) + std::string(kSecondsSuffix);
 }
 
-QFont AxisLabelFont() { return font("Arial", 11, true); }
-QFont FormatLineFont() { return font("Verdana", 13, true); }
-QFont CaptionFont() { return font("Verdana", 25, true); }
-QFont InputCaptionFont() { return font("Arial", 18, true); }
+QFont AxisLabelFont() { return CellHeightFont("Arial", 11, true); }
+QFont FormatLineFont() { return CellHeightFont("Verdana", kLineHeight, true); }
+QFont CaptionFont() { return CellHeightFont("Verdana", kCaptionHeight, true); }
+QFont InputCaptionFont() { return CellHeightFont("Arial", 18, true); }
 
 void DrawGraphFrame(QPainter& painter, const ViewLayout& layout) {
     const QRect frame = layout.frameRect();
@@ -72,9 +74,12 @@ void DrawGraphFrame(QPainter& painter, const ViewLayout& layout) {
 }
 
 void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mode, const QString& duration) {
-    const double width = layout.pageSize().width();
+    // The band runs across the whole window, also where the page, kept in shape, leaves room at its sides.
+    const QRectF window = painter.worldTransform().inverted().mapRect(QRectF(painter.viewport()));
     painter.save();
-    painter.fillRect(QRectF(0, 0, width, layout.TitleTop + layout.TitleHeight), QColor::fromRgb(kTextRowColour));
+    painter.fillRect(
+        QRectF(QPointF(window.left(), std::min(0.0, window.top())), QPointF(window.right(), captionBandBottom(layout))),
+        QColor::fromRgb(kTextRowColour));
     painter.setPen(Qt::black);
     painter.setFont(CaptionFont());
     const int top = captionTop(layout);

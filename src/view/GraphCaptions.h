@@ -48,7 +48,7 @@ std::string FileLineText(int recordingNumber, const std::filesystem::path& path)
 // Label i of 0 to 6 of the time axis: the start of the range plus i sixths of its length, "%.2f s".
 std::string TimeAxisLabel(std::int64_t first, std::int64_t last, int rate, int i);
 
-// Fonts by element, by pixel height.
+// Fonts by element, by the height of their lines in pixels.
 QFont AxisLabelFont();
 QFont FormatLineFont();
 QFont CaptionFont();

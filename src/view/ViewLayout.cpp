@@ -29,8 +29,13 @@ QSizeF ViewLayout::pageSize() const {
 }
 
 QTransform ViewLayout::toWidget(QSizeF widget) const {
-    const QSizeF page = pageSize();
-    return QTransform::fromScale(widget.width() / page.width(), widget.height() / page.height());
+    // One scale for both directions, the largest at which the whole page fits, so that the text keeps its shape
+    // in a window of any proportions; the page stands in the middle of what is left over.
+    const QSizeF page(pageSize().width(), pageSize().height() * verticalStretch());
+    const double scale = std::min(widget.width() / page.width(), widget.height() / page.height());
+    const double dx = (widget.width() - page.width() * scale) / 2.0;
+    const double dy = (widget.height() - page.height() * scale) / 2.0;
+    return QTransform(scale, 0.0, 0.0, scale * verticalStretch(), dx, dy);
 }
 
 QPointF ViewLayout::toPage(QPointF widgetPosition, QSizeF widget) const {

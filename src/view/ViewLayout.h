@@ -1,7 +1,7 @@
 // The geometry of the main view: where the graph, the overview strip and the read-out row stand, in the page's own
 // pixels, fixed once from the size of the screen. Everything is laid out in these pixels and then mapped onto the
-// widget, so that the page fills the window at any size and stays sharp on any screen; a mouse position goes back
-// through the inverse mapping before it is tested against the page.
+// widget, so that the page grows and shrinks with the window and stays sharp on any screen; a mouse position goes
+// back through the inverse mapping before it is tested against the page.
 #pragma once
 
 #include <QPointF>
@@ -37,7 +37,9 @@ struct ViewLayout {
     // The page in its own pixels: the screen's width, and its height less the window's chrome, before the
     // vertical stretch.
     QSizeF pageSize() const;
-    // From page pixels to the widget's coordinates, for a widget of `widget` size.
+    // From page pixels to the widget's coordinates, for a widget of `widget` size: the page as large as fits, with
+    // the same scale across and down (the vertical stretch apart), centred. Everything placed on the page, and its
+    // side panels, goes through this one mapping.
     QTransform toWidget(QSizeF widget) const;
     // A widget position in page pixels.
     QPointF toPage(QPointF widgetPosition, QSizeF widget) const;

@@ -84,70 +84,47 @@ void CMainFrameTest::clientCommandsNeedAClientWithAFolder() {
     ProgramOnRoot program(root.path());
     CMainFrame& frame = program.frame();
     QCOMPARE(frame.windowTitle(), QString("Sonalys"));
-    QVERIFY(enabled(frame, kOpenClient) && enabled(frame, kNewClient));
-    QVERIFY(!enabled(frame, kPersonalInformation) && !enabled(frame, kDeleteClient) && !enabled(frame, kOpenRecording));
+    QVERIFY(enabled(frame, kOpenClient) && !enabled(frame, kPersonalInformation) && !enabled(frame, kOpenRecording));
     frame.CurrentClient = makeRecord({1, "Maria"});
     QVERIFY(enabled(frame, kPersonalInformation) && enabled(frame, kDeleteClient) && enabled(frame, kOpenRecording));
     // A client cannot be deleted while sound is playing or being recorded.
     frame.view()->Playing = true;
-    QVERIFY(!enabled(frame, kDeleteClient));
-    QVERIFY(enabled(frame, kPersonalInformation));
+    QVERIFY(!enabled(frame, kDeleteClient) && enabled(frame, kPersonalInformation));
     frame.view()->Playing = false;
-    frame.view()->Recording = true;
-    QVERIFY(!enabled(frame, kDeleteClient));
-    frame.view()->Recording = false;
     frame.CurrentClient = makeRecord({-1, ""});
     // A client whose folder is gone cannot be opened.
     fs::remove_all(root / "pac002");
     inClientList("Joao Pedro Almeida", "open");
     frame.command(kOpenClient)->trigger();
     QCOMPARE(program.prompt.shown, std::vector<std::string>{"Error Acessing Client´s folder !"});
-    QCOMPARE(frame.CurrentClient.Codigo, -1);
-    QVERIFY(!enabled(frame, kOpenRecording));
+    QVERIFY(frame.CurrentClient.Codigo == -1 && !enabled(frame, kOpenRecording));
 }
 
 void CMainFrameTest::openCreateEditAndDeleteAClientOnTheDemoRoot() {
     DemoCopy root;
     const auto demoRows = tableRows(root.path());
-    QCOMPARE(demoRows.size(), std::size_t(2));
     ProgramOnRoot program(root.path());
     CMainFrame& frame = program.frame();
-
-    // Open: the demo's second client.
+    // Open: the demo's second client; its type sets the F0 range.
     inClientList("Joao Pedro Almeida", "open");
     frame.command(kOpenClient)->trigger();
-    QCOMPARE(frame.CurrentClient.Codigo, 2);
     QCOMPARE(frame.windowTitle(), QString("Joao Pedro Almeida - Sonalys"));
     QCOMPARE(frame.f0Range, (F0Range{70, 400}));
-    QVERIFY(enabled(frame, kPersonalInformation) && enabled(frame, kOpenRecording));
-    QCOMPARE(tableRows(root.path()), demoRows);
-
-    // Create: from the list's New Client button; the lowest free code, its folder, and it becomes the client.
+    // Create from the list's New Client button: the lowest free code, its folder, and it becomes the client.
     inClientList(QString(), "newClient", [] { inClientForm("Lucia Ferreira", "woman", "07041990"); });
     frame.command(kOpenClient)->trigger();
     QVERIFY2(program.prompt.shown.empty(), program.prompt.last().c_str());
-    auto rows = tableRows(root.path());
-    QCOMPARE(rows.size(), std::size_t(3));
-    QCOMPARE(rows[2], (std::pair<std::string, std::string>{"3", "Lucia Ferreira"}));
-    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf")[2].datanasc), std::string("07041990"));
+    QCOMPARE(tableRows(root.path()).back(), (std::pair<std::string, std::string>{"3", "Lucia Ferreira"}));
     QVERIFY(fs::is_directory(root / "pac003"));
-    QCOMPARE(frame.CurrentClient.Codigo, 3);
     QCOMPARE(frame.windowTitle(), QString("Lucia Ferreira - Sonalys"));
     QCOMPARE(frame.f0Range, (F0Range{120, 400}));
-
     // Edit from the menu: the new client becomes a singer with another name.
     inClientForm("Lucia F. Souza", "singer", "");
     frame.command(kPersonalInformation)->trigger();
-    rows = tableRows(root.path());
-    QCOMPARE(rows.size(), std::size_t(3));
-    QCOMPARE(rows[2], (std::pair<std::string, std::string>{"3", "Lucia F. Souza"}));
-    QCOMPARE(rows[0], demoRows[0]);
-    QCOMPARE(rows[1], demoRows[1]);
-    QCOMPARE(trimmed(readDbfRows(root / "pacb.dbf")[2].tipo), std::string("3"));
+    QCOMPARE(tableRows(root.path()).back(), (std::pair<std::string, std::string>{"3", "Lucia F. Souza"}));
     QCOMPARE(frame.windowTitle(), QString("Lucia F. Souza - Sonalys"));
     QCOMPARE(frame.f0Range, (F0Range{100, 1000}));
-
-    // Delete from the menu: the folder and the row go, the demo's clients stay.
+    // Delete from the menu, whose list of files has *.dat: the folder and the row go, the demo's clients stay.
     root.write("pac003/wv001.wav", "RIFF");
     root.write("pac003/wv001.dat", "x");
     program.prompt.answers = {true};
@@ -155,8 +132,6 @@ void CMainFrameTest::openCreateEditAndDeleteAClientOnTheDemoRoot() {
     QCOMPARE(program.prompt.shown, std::vector<std::string>{std::string(kConfirmDeleteClient)});
     QVERIFY(!fs::exists(root / "pac003"));
     QCOMPARE(tableRows(root.path()), demoRows);
-    QVERIFY(fs::exists(root / "pac001/wv001.wav") && fs::exists(root / "pac002/qv001.wav"));
-    QCOMPARE(frame.CurrentClient.Codigo, -1);
     QCOMPARE(frame.windowTitle(), QString("Sonalys"));
     QVERIFY(!enabled(frame, kPersonalInformation) && !enabled(frame, kOpenRecording));
 }
@@ -167,25 +142,18 @@ void CMainFrameTest::aRecordingChosenFromTheListGoesToTheView() {
     CMainFrame& frame = program.frame();
     inClientList("Maria Helena Costa", "open");
     frame.command(kOpenClient)->trigger();
-    QSignalSpy chosen(&frame, &CMainFrame::recordingChosen);
     ModalDriver::whenModal([](QWidget* modal) {
         auto* list = qobject_cast<CAbrirSessao*>(modal);
-        QCOMPARE(list->windowTitle(), QString("Maria Helena Costa - Files"));
-        QCOMPARE(list->list()->rowCount(), 2);
-        for (int row = 0; row < 2; ++row) {
+        for (int row = 0; row < list->list()->rowCount(); ++row) {
             if (list->list()->cellText(row, 0).endsWith("File 2")) list->list()->selectRow(row);
         }
         list->open();
     });
     frame.command(kOpenRecording)->trigger();
-    QCOMPARE(chosen.count(), 1);
-    QCOMPARE(chosen.at(0).at(0).toInt(), 2);
-    QCOMPARE(chosen.at(0).at(1).value<FileKind>(), FileKind::WvWithoutDate);
     // The view shows it, and the window's title names the client and the recording.
     QCOMPARE(frame.view()->displayMode(), DisplayMode::FileSpectrogramMode);
     QCOMPARE(frame.view()->loadedRecording().RecordingNumber, 2);
     QCOMPARE(frame.windowTitle(), QString("Maria Helena Costa  File - 2 - Sonalys"));
-    QVERIFY(frame.view()->action(kIdShowSpectrum)->isEnabled());
     QVERIFY(program.prompt.shown.empty());
 }
 
@@ -201,15 +169,12 @@ void CMainFrameTest::otherFilesWorksWithoutAClient() {
     QCOMPARE(frame.CurrentClient.Codigo, 99999);
     QCOMPARE(frame.windowTitle(), QString("default - Sonalys"));
     QCOMPARE(frame.f0Range, (F0Range{70, 1000}));
-    QVERIFY(enabled(frame, kOpenRecording));
-
     // Deleting in Other Files empties and removes the folder, and leaves the client table alone.
     root.write("Other Files/voice.wav", "RIFF");
     program.prompt.answers = {true};
     frame.command(kDeleteClient)->trigger();
     QVERIFY(!fs::exists(root / "Other Files"));
     QCOMPARE(tableRows(root.path()), demoRows);
-    QCOMPARE(frame.CurrentClient.Codigo, -1);
 }
 
 void CMainFrameTest::otherFilesOpensAnySoundAndTheDialogLeavesNoTrace() {
@@ -221,7 +186,6 @@ void CMainFrameTest::otherFilesOpensAnySoundAndTheDialogLeavesNoTrace() {
     CMainFrame& frame = program.frame();
     inClientList(QString(), "otherFiles");
     frame.command(kOpenClient)->trigger();
-    QSignalSpy chosen(&frame, &CMainFrame::recordingFileChosen);
     const QString voice = QString::fromStdString((root / "Other Files/voice.wav").string());
     ModalDriver::whenModal([&](QWidget* modal) {
         auto* dialog = qobject_cast<QFileDialog*>(modal);
@@ -230,13 +194,9 @@ void CMainFrameTest::otherFilesOpensAnySoundAndTheDialogLeavesNoTrace() {
         QMetaObject::invokeMethod(dialog, "accept");
     });
     frame.command(kOpenRecording)->trigger();
-    QCOMPARE(chosen.count(), 1);
-    QCOMPARE(QFileInfo(chosen.at(0).at(0).toString()).canonicalFilePath(), QFileInfo(voice).canonicalFilePath());
     // The view shows it as a file from anywhere, and the title names the file.
-    QCOMPARE(frame.view()->loadedRecording().SampleCount(), std::size_t{90469});
     QCOMPARE(frame.view()->loadedRecording().RecordingNumber, -1);
-    QVERIFY(frame.windowTitle().startsWith("File - "));
-    QVERIFY(frame.windowTitle().endsWith("voice.wav - Sonalys"));
+    QCOMPARE(frame.windowTitle(), QString("File - voice.wav - Sonalys"));
     QVERIFY(program.prompt.shown.empty());
     QVERIFY(!QFile::exists(qtSettings));
 }

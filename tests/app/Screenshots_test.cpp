@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QPainter>
-#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -15,7 +14,6 @@
 #include "app/CAbrirPaciente.h"
 #include "app/CAbrirSessao.h"
 #include "app/CPaciente.h"
-#include "app/CSplashWnd.h"
 #include "clients/CPacienteTable.h"
 #include "controls/ReportList.h"
 #include "view/CAFView.h"
@@ -31,7 +29,7 @@ QString pictureFolder() {
 }
 
 // The main window as the screen shows it, with `dialog` centred over it when there is one.
-QImage screen(QWidget& frame, QWidget* dialog) {
+QImage onScreen(QWidget& frame, QWidget* dialog) {
     QImage picture(frame.size(), QImage::Format_RGB32);
     picture.fill(Qt::black);
     QPainter painter(&picture);
@@ -70,12 +68,16 @@ private slots:
 };
 
 void ScreenshotsTest::mainWindowAndDialogs_data() {
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("1024x768") << QSize(1024, 768);
-    QTest::newRow("1920x1080") << QSize(1920, 1080);
+    QTest::addColumn<QSize>("screen");
+    QTest::addColumn<QSize>("size");  // of the window
+    QTest::newRow("800x600") << QSize(800, 600) << QSize(800, 600);
+    QTest::newRow("1024x768") << QSize(1024, 768) << QSize(1024, 768);
+    QTest::newRow("1200x500") << QSize(1920, 1080) << QSize(1200, 500);
+    QTest::newRow("1920x1080") << QSize(1920, 1080) << QSize(1920, 1080);
 }
 
 void ScreenshotsTest::mainWindowAndDialogs() {
+    QFETCH(QSize, screen);
     QFETCH(QSize, size);
     DemoCopy root;
     ProgramOnRoot program(root.path());
@@ -85,50 +87,36 @@ void ScreenshotsTest::mainWindowAndDialogs() {
     QVERIFY(QTest::qWaitForWindowExposed(&frame));
     const QString suffix = QString("-%1x%2.png").arg(size.width()).arg(size.height());
     const QString folder = pictureFolder();
-    QVERIFY(screen(frame, nullptr).save(folder + "/main-window" + suffix));
-
+    QVERIFY(onScreen(frame, nullptr).save(folder + "/main-window" + suffix));
+    // Each dialog over the window: its texts whole, itself on the screen.
+    const auto shoot = [&](QDialog& dialog, const char* name) {
+        dialog.show();
+        verifyTextsFit(&dialog);
+        QVERIFY(dialog.width() <= screen.width() && dialog.height() <= screen.height());
+        QVERIFY(onScreen(frame, &dialog).save(folder + "/" + name + suffix));
+        dialog.close();
+    };
     CAbrirPaciente clients(frame);
-    clients.show();
     clients.list()->selectRow(0);
-    verifyTextsFit(&clients);
-    QVERIFY(clients.width() <= size.width() && clients.height() <= size.height());
-    QVERIFY(screen(frame, &clients).save(folder + "/client-list" + suffix));
-    clients.close();
-
+    shoot(clients, "client-list");
     CPacienteTable& table = frame.table();
     table.LoadClients("CODIGO=1");
-    CPaciente form(CPaciente::EditMode, table.EntryAt(0)->record, table, frame.CurrentClient, root.path(),
-                   LanguageId::English, program.prompt, &frame);
-    form.show();
-    verifyTextsFit(&form);
-    QVERIFY(form.width() <= size.width() && form.height() <= size.height());
-    QVERIFY(screen(frame, &form).save(folder + "/client-form" + suffix));
-    form.close();
-
-    CAboutDlg about(true, &frame);
-    about.show();
-    verifyTextsFit(&about);
-    QVERIFY(screen(frame, &about).save(folder + "/about" + suffix));
-    about.close();
-
-    QPointer<CSplashWnd> splash = CSplashWnd::ShowSplashScreen(&frame, LanguageId::English);
-    QVERIFY(screen(frame, splash).save(folder + "/splash" + suffix));
-    splash->close();
-
     frame.CurrentClient = table.EntryAt(0)->record;
+    CPaciente form(CPaciente::EditMode, frame.CurrentClient, table, frame.CurrentClient, root.path(),
+                   LanguageId::English, program.prompt, &frame);
+    shoot(form, "client-form");
+    CAboutDlg about(true, &frame);
+    shoot(about, "about");
     CAbrirSessao recordings(frame.CurrentClient, root.path(), LanguageId::English, program.prompt, false, &frame);
-    recordings.show();
     recordings.list()->selectRow(0);
-    verifyTextsFit(&recordings);
-    QVERIFY(screen(frame, &recordings).save(folder + "/recording-list" + suffix));
-    recordings.close();
+    shoot(recordings, "recording-list");
 
     // A recording chosen from the list, on the window's view, laid out for a screen of this size.
-    frame.view()->setScreenSize(size);
+    frame.view()->setScreenSize(screen);
     frame.view()->setCurrentClient(ClientFolder{root.path(), 1}, "Maria Helena Costa");
     emit frame.recordingChosen(1, FileKind::WvWithoutDate);
     QCOMPARE(frame.view()->displayMode(), DisplayMode::FileSpectrogramMode);
-    QVERIFY(screen(frame, nullptr).save(folder + "/main-window-recording" + suffix));
+    QVERIFY(onScreen(frame, nullptr).save(folder + "/main-window-recording" + suffix));
 }
 
 QTEST_MAIN(ScreenshotsTest)

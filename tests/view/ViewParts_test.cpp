@@ -22,7 +22,7 @@ class ViewPartsTest : public QObject {
 private slots:
     void theSmallLayoutServesScreensExactly800WideOr600High();
     void theLargeLayoutMovesByHalfTheSizeAboveTheReference();
-    void thePageFillsTheWidgetAndPositionsMapBack();
+    void thePageKeepsItsShapeCentredAndPositionsMapBack();
     void stripSamplesStayInsideTheStripAtBothExtremes();
     void eachStripColumnTakesEightPointsAtEvenFractionsAndMissesWhatLiesBetween();
     void aRangeShorterThanTheStripRepeatsSamples();
@@ -30,8 +30,8 @@ private slots:
     void theStripFrameIsWhiteWithAnOutlineAndThreeGuideLines();
     void theDurationSplitsMinutesAboveAMinuteAndNeverShowsHours();
     void formatFileAndTimeAxisTexts();
-    void readOutsUseTheShownRangeAndTheTopFrequency();
-    void theReadOutBoxGoesLeftNearTheRightEndAndStaysInTheGraph();
+    void theCaptionIsWholeAndTheFormatLineStaysInTheBand();
+    void readOutsUseTheShownRangeAndTheTopFrequencyInABoxInsideTheGraph();
     void aSelectionBecomesARangeOfSamples();
     void commandsAreEnabledAndCheckedByTheState();
     void theDisplayModeMovesByOpeningTheCommandsAndRecording();
@@ -69,17 +69,18 @@ void ViewPartsTest::theLargeLayoutMovesByHalfTheSizeAboveTheReference() {
     QCOMPARE(ViewLayout::forScreen({1281, 1025}).GraphLeft, 140 + 128);  // 257 x 0.5, truncated
 }
 
-void ViewPartsTest::thePageFillsTheWidgetAndPositionsMapBack() {
+void ViewPartsTest::thePageKeepsItsShapeCentredAndPositionsMapBack() {
     const ViewLayout layout = ViewLayout::forScreen({1024, 768});
     QCOMPARE(layout.pageSize(), QSizeF(1024, 600));  // 768 less the window's 102, over 1.11
     // On a widget of the reference size, the stretch of the large layout is 111 / 100.
-    const QSizeF widget(1024, 666);
-    QCOMPARE(layout.toWidget(widget).map(QPointF(140, 150)), QPointF(140, 166.5));
-    QCOMPARE(layout.toPage(QPointF(512, 333), widget), QPointF(512, 300));
-    // Any other size fills the widget in both directions.
-    const QSizeF half(512, 300);
-    QCOMPARE(layout.toWidget(half).map(QPointF(1024, 600)), QPointF(512, 300));
-    QCOMPARE(layout.toPage(QPointF(70, 75), half), QPointF(140, 150));
+    QCOMPARE(layout.toWidget({1024, 666}).map(QPointF(140, 150)), QPointF(140, 166.5));
+    // A wide, low window: the page is as high as the window, the same scale across, centred.
+    const double across = (1200 - 1024 * 500 / 666.0) / 2;
+    QCOMPARE(layout.toWidget({1200, 500}).map(QPointF(0, 0)), QPointF(across, 0));
+    QCOMPARE(layout.toWidget({1200, 500}).map(QPointF(1024, 600)), QPointF(1200 - across, 500));
+    // A tall, narrow one: as wide as the window, centred down.
+    QCOMPARE(layout.toWidget({800, 1000}).map(QPointF(0, 0)), QPointF(0, (1000 - 666 * 800 / 1024.0) / 2));
+    QCOMPARE(layout.toPage(layout.toWidget({1200, 500}).map(QPointF(140, 150)), {1200, 500}), QPointF(140, 150));
     QCOMPARE(m_small.pageSize(), QSizeF(800, 498));
     QCOMPARE(m_small.toWidget(QSizeF(800, 498)).map(QPointF(92, 100)), QPointF(92, 100));
 }
@@ -110,10 +111,8 @@ void ViewPartsTest::aRangeShorterThanTheStripRepeatsSamples() {
     for (int i = 0; i < 1000; ++i) samples[i] = static_cast<std::int16_t>(i * 30);
     // 100 samples over 671 columns: 0.149 of a sample a column, so every point of columns 0 to 6 is sample 500.
     const QPolygon trace = StripTrace(m_small, samples, 500, 600);
-    QCOMPARE(trace.size(), m_small.GraphWidth * 8);
     for (int i = 0; i < 7 * 8; ++i) QCOMPARE(trace[i].y(), StripY(m_small, 15000.0f));
     QCOMPARE(trace[7 * 8].y(), StripY(m_small, 15030.0f));  // column 7: 7 x 0.149 = 1.04
-    QCOMPARE(trace.last().y(), StripY(m_small, 599 * 30.0f));
 }
 
 void ViewPartsTest::theLiveTraceKeepsTheNewestPointsFromTheLeft() {
@@ -123,17 +122,10 @@ void ViewPartsTest::theLiveTraceKeepsTheNewestPointsFromTheLeft() {
         for (int i = 0; i < 64; ++i) block[i] = static_cast<std::int16_t>(b * 64 + i);
         live.addBlock(block);  // 4 columns of 16 samples: points at 0, 2, ..., 14 of each
     }
-    QCOMPARE(live.count(), 80);
     // 96 points were added; the 16 oldest (the first two columns of block 0) are gone.
-    QCOMPARE(live.points()[0], 32.0f);
-    QCOMPARE(live.points()[1], 34.0f);
-    QCOMPARE(live.points()[79], 128.0f + 62.0f);
-    const QPolygon trace = live.trace(m_small);
-    QCOMPARE(trace.size(), 80);
-    QCOMPARE(trace[0].x(), m_small.GraphLeft);
-    QCOMPARE(trace[79].x(), m_small.GraphLeft + 9);
-    live.addBlock({});  // an empty block adds nothing
     QCOMPARE(live.count(), 80);
+    QCOMPARE(QList<float>({live.points()[0], live.points()[1], live.points()[79]}), QList<float>({32, 34, 128 + 62}));
+    QCOMPARE(live.trace(m_small)[79], QPoint(m_small.GraphLeft + 9, StripY(m_small, 190.0f)));
 }
 
 void ViewPartsTest::theStripFrameIsWhiteWithAnOutlineAndThreeGuideLines() {
@@ -142,13 +134,11 @@ void ViewPartsTest::theStripFrameIsWhiteWithAnOutlineAndThreeGuideLines() {
     QPainter painter(&image);
     DrawStrip(painter, m_small, {}, Qt::black);
     painter.end();
-    const int x = 300;
-    for (const QPoint outline : {QPoint(x, 445), QPoint(x, 494), QPoint(m_small.GraphLeft, 460),
-                                 QPoint(m_small.GraphLeft + m_small.GraphWidth + 1, 460)})
+    for (const QPoint outline : {QPoint(300, 445), QPoint(300, 494), QPoint(92, 460), QPoint(92 + 671 + 1, 460)})
         QCOMPARE(image.pixel(outline), qRgb(0, 0, 0));
-    for (const int y : {445 + 12, 445 + 25, 445 + 37}) QCOMPARE(image.pixel(x, y), kGuideLineColour);
-    QCOMPARE(image.pixel(x, 450), qRgb(255, 255, 255));
-    QCOMPARE(image.pixel(x, 496), qRgb(255, 0, 0));  // nothing drawn past the strip
+    for (const int y : {445 + 12, 445 + 25, 445 + 37}) QCOMPARE(image.pixel(300, y), kGuideLineColour);
+    QCOMPARE(QList<QRgb>({image.pixel(300, 450), image.pixel(300, 496)}),
+             QList<QRgb>({qRgb(255, 255, 255), qRgb(255, 0, 0)}));
 }
 
 void ViewPartsTest::theDurationSplitsMinutesAboveAMinuteAndNeverShowsHours() {
@@ -162,40 +152,57 @@ void ViewPartsTest::theDurationSplitsMinutesAboveAMinuteAndNeverShowsHours() {
 }
 
 void ViewPartsTest::formatFileAndTimeAxisTexts() {
-    WaveFormat format;
-    format.nSamplesPerSec = 22050;
-    format.wBitsPerSample = 16;
-    format.nChannels = 1;
+    WaveFormat format{.nChannels = 1, .nSamplesPerSec = 22050, .wBitsPerSample = 16};
     QCOMPARE(FormatLineText(format), std::string("22050 Hz, 16 Bits Mono"));
     format.nChannels = 2;
-    format.nSamplesPerSec = 44100;
-    QCOMPARE(FormatLineText(format), std::string("44100 Hz, 16 Bits Stereo"));
+    QCOMPARE(FormatLineText(format), std::string("22050 Hz, 16 Bits Stereo"));
     QCOMPARE(FileLineText(7, "pac001/wv007.wav"), std::string("File 7"));
     QCOMPARE(FileLineText(-1, "/home/me/Sounds/my voice.wav"), std::string("my voice.wav"));
     QCOMPARE(FileLineText(-2, "Models/a.wav"), std::string("Model"));
     // The time labels spread the shown range in sixths.
-    QCOMPARE(TimeAxisLabel(0, 90469, 22050, 0), std::string("0,00 s"));
     QCOMPARE(TimeAxisLabel(0, 90469, 22050, 6), std::string("4,10 s"));
     QCOMPARE(TimeAxisLabel(22050, 44100, 22050, 3), std::string("1,50 s"));  // 1 + 3 x (1 / 6)
-    QCOMPARE(TimeAxisLabel(11025, 11025, 11025, 5), std::string("1,00 s"));
 }
 
-void ViewPartsTest::readOutsUseTheShownRangeAndTheTopFrequency() {
+// The rows of `image` holding dark ink between columns `left` and `right`, first and last.
+static std::pair<int, int> inkRows(const QImage& image, int left, int right) {
+    std::pair<int, int> rows{-1, -1};
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = left; x < right; ++x)
+            if (qGray(image.pixel(x, y)) < 128) rows = {rows.first < 0 ? y : rows.first, y};
+    return rows;
+}
+
+void ViewPartsTest::theCaptionIsWholeAndTheFormatLineStaysInTheBand() {
+    for (const QSize screen : {QSize(800, 600), QSize(1024, 768)}) {
+        const ViewLayout layout = ViewLayout::forScreen(screen);
+        QImage page(layout.pageSize().toSize(), QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QImage free = page;
+        QPainter painter(&page);
+        DrawCaptionRow(painter, layout, M::FileSpectrogramMode, "00:00:04,102");
+        DrawFormatLine(painter, layout, "22050 Hz, 16 Bits Mono");
+        painter.end();
+        painter.begin(&free);  // the caption drawn with nothing to cut it
+        painter.setFont(CaptionFont());
+        painter.drawText(QPoint(layout.GraphLeft - 80, 200), "Spectrogram");
+        painter.end();
+        const auto [top, bottom] = inkRows(page, layout.GraphLeft - 80, layout.GraphLeft - 40);
+        const auto [freeTop, freeBottom] = inkRows(free, layout.GraphLeft - 80, layout.GraphLeft - 40);
+        QCOMPARE(bottom - top, freeBottom - freeTop);
+        const int lineLeft = 176 + layout.XOffset;
+        QCOMPARE(page.pixel(2, inkRows(page, lineLeft, lineLeft + 100).second), kTextRowColour);
+    }
+}
+
+void ViewPartsTest::readOutsUseTheShownRangeAndTheTopFrequencyInABoxInsideTheGraph() {
     const ViewLayout layout = ViewLayout::forScreen({1024, 768});  // graph 140 + 800, 150 + 300
-    QCOMPARE(ReadOutSeconds(layout, 140 + 400, 0, 44100, 22050), 1.0);
     QCOMPARE(ReadOutSeconds(layout, 140 + 200, 22050, 22050 + 8000, 22050), (22050 + 2000) / 22050.0);
     QCOMPARE(ReadOutHertz(layout, 150 + 150, 7350.0), 3675.0);
-    QCOMPARE(ReadOutHertz(layout, 150, 7350.0), 7350.0);
     QCOMPARE(ReadOutText(kSpectrogramReadOut, 3675.0, 1.0), std::string("3675,00 Hz   1,00 s"));
     QCOMPARE(ReadOutText(kSpectrumReadOut, 1.5, -3.256), std::string("1,50 kHz   -3,26 dB"));
-}
-
-void ViewPartsTest::theReadOutBoxGoesLeftNearTheRightEndAndStaysInTheGraph() {
-    const ViewLayout layout = ViewLayout::forScreen({1024, 768});
     const QRect right = ReadOutBox(layout, {300, 300});
-    QVERIFY(right.left() > 300);
-    QCOMPARE(right.top(), 285);  // 15 above the pointer
-    QCOMPARE(right.width(), kReadOutWidth);
+    QVERIFY(right.left() > 300 && right.top() == 285);                  // 15 above the pointer
     QVERIFY(ReadOutBox(layout, {940 - 150, 300}).right() < 940 - 150);  // within 200 of the right end
     QVERIFY(QRect(layout.pictureRect()).contains(ReadOutBox(layout, {141, 151})));
 }
@@ -227,34 +234,18 @@ void ViewPartsTest::commandsAreEnabledAndCheckedByTheState() {
         Change change;
         bool enabled;
     } rows[] = {
-        {"Edit Notes for a client's recording", kIdEditNotes, none, true},
         {"no Edit Notes for a file from outside", kIdEditNotes, [](CommandState& s) { s.RecordingNumber = -1; }, false},
-        {"no Clean Texts for a file from outside", kIdCleanTexts, [](CommandState& s) { s.RecordingNumber = -1; },
-         false},
         {"no Clean Texts on a live page", kIdCleanTexts, [](CommandState& s) { s.mode = M::LiveSpectrumMode; }, false},
         {"Cut over part of the strip", kIdCut, [](CommandState& s) { s.HasSelection = true; }, true},
         {"no Cut over the whole strip", kIdCut, [](CommandState& s) { s.HasSelection = s.SelectionSpansStrip = true; },
          false},
-        {"Zoom over the whole strip", kIdZoom, [](CommandState& s) { s.HasSelection = s.SelectionSpansStrip = true; },
-         true},
         {"no Zoom without a selection", kIdZoom, none, false},
         {"Zoom back when zoomed", kIdZoom, [](CommandState& s) { s.Zoomed = true; }, true},
         {"no Copy when zoomed", kIdCopy, [](CommandState& s) { s.HasSelection = s.Zoomed = true; }, false},
-        {"no Silence while recording", kIdSilence, [](CommandState& s) { s.HasSelection = s.Recording = true; }, false},
-        {"Paste only with something cut", kIdPaste, [](CommandState& s) { s.EditKind = 2; }, true},
         {"no Undo after a copy", kIdUndo, [](CommandState& s) { s.EditKind = 2; }, false},
-        {"Undo after a cut", kIdUndo, [](CommandState& s) { s.EditKind = 1; }, true},
         {"no Record on the empty view", kIdRecord, [](CommandState& s) { s.mode = M::ModeEmpty; }, false},
-        {"no Record while playing", kIdRecord, [](CommandState& s) { s.Playing = true; }, false},
-        {"no Delete while playing", kIdDelete, [](CommandState& s) { s.Playing = true; }, false},
-        {"Save Changes after an edit", kIdSaveChanges, [](CommandState& s) { s.Modified = true; }, true},
         {"no Import outside a client", kIdImport, [](CommandState& s) { s.ClientCode = 99999; }, false},
-        {"no Select All when zoomed", kIdSelectAll, [](CommandState& s) { s.Zoomed = true; }, false},
         {"Compare while playing", kIdCompareWithFile, [](CommandState& s) { s.Playing = true; }, true},
-        {"no Play with nothing loaded", kIdPlay, [](CommandState& s) { s.SampleCount = 0; }, false},
-        {"no Mode menu without a client", kIdShowSpectrum, [](CommandState& s) { s.ClientCode = -1; }, false},
-        {"no About while recording", kIdAbout, [](CommandState& s) { s.Recording = true; }, false},
-        {"no Close without a comparison", kIdCloseComparison, none, false},
         {"no unknown command", 12345, none, false},
     };
     // A client's recording, loaded and shown on the spectrogram page.
@@ -264,44 +255,30 @@ void ViewPartsTest::commandsAreEnabledAndCheckedByTheState() {
         return s;
     };
     for (const auto& row : rows) QVERIFY2(CommandEnabled(row.id, loaded(row.change)) == row.enabled, row.name);
-    QVERIFY(CommandChecked(kIdPlay, loaded([](CommandState& s) { s.Playing = true; })));
-    QVERIFY(CommandChecked(kIdRecord, loaded([](CommandState& s) { s.Recording = true; })));
     QVERIFY(CommandChecked(kIdZoom, loaded([](CommandState& s) { s.Zoomed = true; })));
     QVERIFY(!CommandChecked(kIdZoom, loaded(none)));
-    QVERIFY(!CommandChecked(kIdDelete, loaded(none)));
     for (const ViewCommand& command : kViewCommands) QCOMPARE(FindViewCommand(command.id), &command);  // ids unique
 }
 
 void ViewPartsTest::theDisplayModeMovesByOpeningTheCommandsAndRecording() {
     // Opening keeps the power-spectrum page and otherwise shows the spectrogram.
-    for (const M mode : {M::ModeEmpty, M::LiveSpectrogramMode, M::FileSpectrogramMode})
-        QCOMPARE(ModeAfterOpening(mode), M::FileSpectrogramMode);
-    for (const M mode : {M::LiveSpectrumMode, M::FileSpectrumMode})
-        QCOMPARE(ModeAfterOpening(mode), M::FileSpectrumMode);
-    // The mode commands go to the live or the file page.
-    QCOMPARE(ModeAfterShowSpectrum(true), M::FileSpectrumMode);
+    QCOMPARE(ModeAfterOpening(M::ModeEmpty), M::FileSpectrogramMode);
+    QCOMPARE(ModeAfterOpening(M::LiveSpectrumMode), M::FileSpectrumMode);
     QCOMPARE(ModeAfterShowSpectrum(false), M::LiveSpectrumMode);
     QCOMPARE(ModeAfterShowSpectrogram(M::LiveSpectrogramMode, true), M::LiveSpectrogramMode);  // nothing happens
-    QCOMPARE(ModeAfterShowSpectrogram(M::FileSpectrogramMode, false), M::FileSpectrogramMode);
     QCOMPARE(ModeAfterShowSpectrogram(M::FileSpectrumMode, true), M::FileSpectrogramMode);
     QCOMPARE(ModeAfterShowSpectrogram(M::ModeEmpty, false), M::LiveSpectrogramMode);
-    // Recording goes live, and back to the file page.
+    // Recording goes live, and back to the file page; from the empty view it keeps what was held before.
     QCOMPARE(ModeAfterStartRecording(M::FileSpectrogramMode, M::ModeEmpty), M::LiveSpectrogramMode);
     QCOMPARE(ModeAfterStartRecording(M::FileSpectrumMode, M::ModeEmpty), M::LiveSpectrumMode);
-    QCOMPARE(ModeAfterStartRecording(M::LiveSpectrumMode, M::ModeEmpty), M::LiveSpectrumMode);
     QCOMPARE(ModeAfterStartRecording(M::ModeEmpty, M::FileSpectrumMode), M::FileSpectrumMode);
-    QCOMPARE(ModeAfterStartRecording(M::LiveSpectrogramMode, M::FileSpectrogramMode), M::FileSpectrogramMode);
-    QCOMPARE(ModeAfterStopRecording(M::LiveSpectrogramMode), M::FileSpectrogramMode);
     QCOMPARE(ModeAfterStopRecording(M::LiveSpectrumMode), M::FileSpectrumMode);
 }
 
 void ViewPartsTest::anUnknownModeIsShownAndDrawsBlack() {
     FakePrompt prompt;
-    for (const M mode :
-         {M::LiveSpectrogramMode, M::LiveSpectrumMode, M::FileSpectrogramMode, M::FileSpectrumMode, M::ModeEmpty})
+    for (const M mode : {M::LiveSpectrogramMode, M::FileSpectrumMode, M::ModeEmpty, static_cast<M>(5)})
         QCOMPARE(TraceColour(mode, prompt), QColor(Qt::black));
-    QVERIFY(prompt.shown.empty());
-    QCOMPARE(TraceColour(static_cast<M>(5), prompt), QColor(Qt::black));
     QCOMPARE(prompt.shown, std::vector<std::string>{"Invalid Function!"});
 }
 
