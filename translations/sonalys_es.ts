@@ -549,6 +549,16 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
     <message>
         <source>Show the long-term average spectrum</source>
         <translation>Mostrar el espectro promedio a largo plazo (LTAS)</translation>
+        <source>11025 Hz</source>
+        <translation>11025 Hz</translation>
+    </message>
+    <message>
+        <source>22050 Hz</source>
+        <translation>22050 Hz</translation>
+    </message>
+    <message>
+        <source>44100 Hz</source>
+        <translation>44100 Hz</translation>
     </message>
 </context>
 </TS>
