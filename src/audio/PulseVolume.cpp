@@ -1,7 +1,5 @@
 #include "audio/PulseVolume.h"
 
-#include "audio/SoundServerMixer.h"
-
 #include <algorithm>
 #include <cctype>
 #include <cmath>
@@ -39,6 +37,7 @@ bool PulseDeviceVolume::hasLine(const PulseMixer::DeviceState& state) const {
 }
 
 bool PulseDeviceVolume::openLine(LineInfo& info) {
+    m_mixer.reset();  // an earlier connection may still post to the receiver it had
     m_receiver = std::make_unique<QObject>();
     m_mixer = std::make_unique<PulseMixer>();
     const auto state = m_mixer->connect() ? m_mixer->defaultDevice(m_device) : std::nullopt;

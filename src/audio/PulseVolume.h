@@ -9,10 +9,7 @@
 
 #include "audio/IVolume.h"
 #include "audio/PulseMixer.h"
-
-// The record inputs, by the number that cfr.dat keeps.
-inline constexpr int kMicrophoneInput = 0;
-inline constexpr int kLineInput = 1;
+#include "audio/SoundServerMixer.h"
 
 // The sliders' scale for every line: 0 to 65535, as sound cards' own mixers count.
 inline constexpr int kMixerMaximum = 65535;

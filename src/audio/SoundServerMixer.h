@@ -6,6 +6,10 @@
 
 #include "audio/IVolume.h"
 
+// The record inputs, by the number that cfr.dat keeps.
+inline constexpr int kMicrophoneInput = 0;
+inline constexpr int kLineInput = 1;
+
 // The three levels the program sets.
 enum class MixerLine { Master, Wave, Input };
 
