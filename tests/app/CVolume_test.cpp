@@ -1,9 +1,7 @@
 // The volume dialog's sliders over scripted mixer lines, the record settings dialog, and both commands of the frame.
 #include <QAction>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
 #include "FakePrompt.h"
@@ -15,48 +13,23 @@
 #include "app/CMainFrame.h"
 #include "app/CVolume.h"
 #include "app/MixerVolumes.h"
-#include "app/SettingsFiles.h"
 #include "controls/VolumeSlider.h"
-
-namespace {
-
-// Lines made by the mixer, kept by the test to look at; the input line exists only for the inputs listed.
-struct ScriptedMixer {
-    FakeVolume* master = nullptr;
-    FakeVolume* input = nullptr;
-    std::vector<int> inputs{0, 1};
-
-    MixerVolumes::Factory factory() {
-        return [this](MixerLine line, int recordInput) -> std::unique_ptr<IVolume> {
-            auto volume = std::make_unique<FakeVolume>(0, 70, std::vector<int>{20, 20});
-            if (line == MixerLine::Master) master = volume.get();
-            if (line == MixerLine::Input) {
-                volume->found = std::find(inputs.begin(), inputs.end(), recordInput) != inputs.end();
-                input = volume->found ? volume.get() : nullptr;
-            }
-            return volume;
-        };
-    }
-};
-
-}  // namespace
 
 class CVolumeTest : public QObject {
     Q_OBJECT
 private slots:
-    void slidersStandUpsideDownOverTheLinesRange();
-    void aMissingLineDisablesItsSliderAndTheInputColumnIsNamedByTheInput();
-    void recordSettingsListTheInputsInTheirOrder();
+    void slidersStandUpsideDownAndAMissingLineDisablesItsSlider();
     void theFrameCommandsOpenBothDialogs();
 };
 
-void CVolumeTest::slidersStandUpsideDownOverTheLinesRange() {
+void CVolumeTest::slidersStandUpsideDownAndAMissingLineDisablesItsSlider() {
     FakePrompt prompt;
-    ScriptedMixer lines;
+    ScriptedMixer lines(true, {0});
     MixerVolumes mixer;
     mixer.SetUp(lines.factory(), 0, prompt);
-    CVolume dialog(mixer, 0);
-    VolumeSlider* master = dialog.slider(MixerLine::Master);
+    CVolume mic(mixer, 0);
+    QCOMPARE(mic.windowTitle(), QString("Playback and Record Volume"));
+    VolumeSlider* master = mic.slider(MixerLine::Master);
     QCOMPARE(master->minimum(), 0);
     QCOMPARE(master->maximum(), 70);
     QCOMPARE(master->tickInterval(), 10);  // (70 - 0) / 7
@@ -66,32 +39,14 @@ void CVolumeTest::slidersStandUpsideDownOverTheLinesRange() {
     lines.master->changeFromOutside(65);
     QCOMPARE(master->value(), 5);
     QCOMPARE(lines.master->writes.size(), std::size_t{1});  // following the outside change writes nothing back
-}
-
-void CVolumeTest::aMissingLineDisablesItsSliderAndTheInputColumnIsNamedByTheInput() {
-    FakePrompt prompt;
-    ScriptedMixer lines;
-    lines.inputs = {0};
-    MixerVolumes mixer;
-    mixer.SetUp(lines.factory(), 0, prompt);
-    CVolume mic(mixer, 0);
     QCOMPARE(mic.caption(MixerLine::Input)->text(), QString("Mic"));
     QVERIFY(mic.slider(MixerLine::Input)->isEnabled());
     QVERIFY(!mic.slider(MixerLine::Wave)->isEnabled());  // no playback stream given yet
-    QVERIFY(!mixer.SetInput(1));
+
+    QVERIFY(!mixer.SetInput(1));  // the card has no line input
     CVolume line(mixer, 1);
     QCOMPARE(line.caption(MixerLine::Input)->text(), QString("Line"));
     QVERIFY(!line.slider(MixerLine::Input)->isEnabled());
-    QCOMPARE(line.windowTitle(), QString("Playback and Record Volume"));
-}
-
-void CVolumeTest::recordSettingsListTheInputsInTheirOrder() {
-    CConfGravar dialog(1);
-    QCOMPARE(dialog.windowTitle(), QString("Record Setting..."));
-    QCOMPARE(dialog.inputBox()->count(), 2);
-    QCOMPARE(dialog.inputBox()->itemText(0), QString("Microfone"));
-    QCOMPARE(dialog.inputBox()->itemText(1), QString("Line In"));
-    QCOMPARE(dialog.Input(), 1);
 }
 
 void CVolumeTest::theFrameCommandsOpenBothDialogs() {
@@ -113,16 +68,20 @@ void CVolumeTest::theFrameCommandsOpenBothDialogs() {
     QVERIFY(volumeShown);
 
     // The line input is chosen: the reminder comes, cfr.dat keeps it, and the input line is made for it.
-    ModalDriver::whenModal([](QWidget* modal) {
+    QStringList seen;
+    ModalDriver::whenModal([&seen](QWidget* modal) {
         auto* dialog = qobject_cast<CConfGravar*>(modal);
+        seen << dialog->windowTitle() << dialog->inputBox()->itemText(0) << dialog->inputBox()->itemText(1)
+             << QString::number(dialog->Input());
         dialog->inputBox()->setCurrentIndex(1);
         dialog->accept();
     });
     frame.command(32890)->trigger();
+    // The inputs in the order of their numbers, the one in force chosen.
+    QCOMPARE(seen, QStringList({"Record Setting...", "Microfone", "Line In", "0"}));
     QCOMPARE(prompt.shown,
              std::vector<std::string>{"Attention! Select the Audio Input in the Windows Record Control!"});
     QCOMPARE(frame.RecordInput, 1);
-    QCOMPARE(ReadRecordInput(home.path(), -1), 1);
     QVERIFY(frame.mixer().line(MixerLine::Input) == lines.input);
 }
 

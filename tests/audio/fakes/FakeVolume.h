@@ -1,10 +1,15 @@
 // A scripted mixer line: the test decides whether the line exists, its range and its channels' levels, and sees
-// every level written. A change from outside is made with changeFromOutside.
+// every level written; a change from outside is made with changeFromOutside. ScriptedMixer makes such lines for the
+// frame, the input line only for the inputs it lists.
 #pragma once
 
+#include <algorithm>
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include "audio/IVolume.h"
+#include "audio/SoundServerMixer.h"
 
 class FakeVolume : public IVolume {
 public:
@@ -34,5 +39,32 @@ protected:
         writes.push_back(channelLevels);
         levels = channelLevels;
         return true;
+    }
+};
+
+// Two-channel lines from 0 to 70 at level 20; the last master and input lines made stay in view.
+struct ScriptedMixer {
+    explicit ScriptedMixer(bool master = true, std::vector<int> inputLines = {0, 1})
+        : masterFound(master), inputs(std::move(inputLines)) {}
+
+    bool masterFound;
+    std::vector<int> inputs;
+    std::vector<int> inputsMade;  // the record input of every input line asked for
+    FakeVolume* master = nullptr;
+    FakeVolume* input = nullptr;
+
+    std::function<std::unique_ptr<IVolume>(MixerLine, int)> factory() {
+        return [this](MixerLine line, int recordInput) -> std::unique_ptr<IVolume> {
+            auto volume = std::make_unique<FakeVolume>(0, 70, std::vector<int>{20, 20});
+            if (line == MixerLine::Master) {
+                volume->found = masterFound;
+                master = volume.get();
+            } else if (line == MixerLine::Input) {
+                volume->found = std::find(inputs.begin(), inputs.end(), recordInput) != inputs.end();
+                inputsMade.push_back(recordInput);
+                input = volume->found ? volume.get() : nullptr;
+            }
+            return volume;
+        };
     }
 };

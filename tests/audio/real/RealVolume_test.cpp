@@ -2,10 +2,7 @@
 // by another program heard through the callback.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <chrono>
 #include <regex>
-#include <thread>
 
 #include "PulseSupport.h"
 #include "audio/PulseVolume.h"
@@ -18,17 +15,6 @@ std::optional<long> serverVolume(const std::string& kind, const std::string& dev
     std::smatch match;
     if (result.exitCode != 0 || !std::regex_search(result.output, match, std::regex(R"(:\s*(\d+)\s*/)"))) return {};
     return std::stol(match[1]);
-}
-
-// Runs the event loop until `done` holds or two seconds have passed.
-template <class Done>
-bool waitFor(Done done) {
-    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(2);
-    while (!done() && std::chrono::steady_clock::now() < until) {
-        QCoreApplication::processEvents();
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    return done();
 }
 
 }  // namespace
@@ -61,7 +47,8 @@ TEST(RealVolume, TheMasterAndInputLevelsAreTheDefaultDevicesLevels) {
     int heard = -1;
     master.SetCallback([&heard](int value) { heard = value; });
     ASSERT_EQ(runCommand("pactl set-sink-volume " + devices->sink + " 0x8000").exitCode, 0);
-    EXPECT_TRUE(waitFor([&heard] { return heard == 32768; })) << heard;  // 0x8000 * 65535 / 65536 = 32767.5
+    for (int i = 0; i < 400 && heard != 32768; ++i) runEventLoop(5);
+    EXPECT_EQ(heard, 32768);  // 0x8000 * 65535 / 65536 = 32767.5
     runCommand("pactl set-sink-volume " + devices->sink + " 0x10000");
     runCommand("pactl set-source-volume " + devices->source + " 0x10000");
 }
