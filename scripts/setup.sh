@@ -12,7 +12,7 @@ packages=(
     build-essential cmake ninja-build pkg-config git
     clang lld libclang-rt-14-dev clang-format
     libgtest-dev libgmock-dev libbenchmark-dev
-    qt6-base-dev qt6-multimedia-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6
+    qt6-base-dev qt6-multimedia-dev libpulse-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6
     libxkbcommon-dev libgl-dev
     libmp3lame-dev libmpg123-dev libfftw3-dev
     fonts-dejavu-core fonts-liberation fonts-liberation2

@@ -549,6 +549,88 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
     <message>
         <source>Show the long-term average spectrum</source>
         <translation>Mostrar el espectro promedio a largo plazo (LTAS)</translation>
+        <source>11025 Hz</source>
+        <translation>11025 Hz</translation>
+    </message>
+    <message>
+        <source>22050 Hz</source>
+        <translation>22050 Hz</translation>
+    </message>
+    <message>
+        <source>44100 Hz</source>
+        <translation>44100 Hz</translation>
+    </message>
+    <message>
+        <source>Verify if other Program is using the audio channel or if your audio devices are installed properly!
+Do you want to Continue?</source>
+        <translation>¡Verifique si otro programa está usando el canal de audio o si sus dispositivos de audio están instalados correctamente!
+¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>Mic. Input can´t be found!
+Do You want to Continue?</source>
+        <translation>¡No se encuentra la entrada de micrófono!
+¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>Warning! It´s not Possible to Define the Selected Input!</source>
+        <translation>¡Advertencia! ¡No es posible definir la entrada seleccionada!</translation>
+    </message>
+    <message>
+        <source>Playback and Record Volume</source>
+        <translation>Volumen de reproducción y grabación</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>Control de volumen</translation>
+    </message>
+    <message>
+        <source>Wave Sound</source>
+        <translation>Sonido Wave</translation>
+    </message>
+    <message>
+        <source>Mic</source>
+        <translation>Mic</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Record Setting...</source>
+        <translation>Configuración de grabación...</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>Input:</source>
+        <translation>Entrada:</translation>
+    </message>
+    <message>
+        <source>Microfone</source>
+        <translation>Micrófono</translation>
+    </message>
+    <message>
+        <source>Line In</source>
+        <translation>Entrada de línea</translation>
+    </message>
+    <message>
+        <source>Attention! Select the Audio Input in the Windows Record Control!</source>
+        <translation>¡Atención! ¡Seleccione la entrada de audio en el control de grabación de Windows!</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Choose the input the recordings are taken from</source>
+        <translation>Elegir la entrada de la que se toman las grabaciones</translation>
+    </message>
+    <message>
+        <source>Record...</source>
+        <translation>Grabación...</translation>
     </message>
 </context>
 </TS>

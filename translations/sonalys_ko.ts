@@ -549,6 +549,88 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
     <message>
         <source>Show the long-term average spectrum</source>
         <translation>장시간 평균 스펙트럼(LTAS) 표시</translation>
+        <source>11025 Hz</source>
+        <translation>11025 Hz</translation>
+    </message>
+    <message>
+        <source>22050 Hz</source>
+        <translation>22050 Hz</translation>
+    </message>
+    <message>
+        <source>44100 Hz</source>
+        <translation>44100 Hz</translation>
+    </message>
+    <message>
+        <source>Verify if other Program is using the audio channel or if your audio devices are installed properly!
+Do you want to Continue?</source>
+        <translation>다른 프로그램이 오디오 채널을 사용 중인지, 오디오 장치가 올바르게 설치되어 있는지 확인하십시오!
+계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Mic. Input can´t be found!
+Do You want to Continue?</source>
+        <translation>마이크 입력을 찾을 수 없습니다!
+계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Warning! It´s not Possible to Define the Selected Input!</source>
+        <translation>경고! 선택한 입력을 지정할 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>Playback and Record Volume</source>
+        <translation>재생 및 녹음 볼륨</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>볼륨 조절</translation>
+    </message>
+    <message>
+        <source>Wave Sound</source>
+        <translation>웨이브 사운드</translation>
+    </message>
+    <message>
+        <source>Mic</source>
+        <translation>마이크</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>라인</translation>
+    </message>
+    <message>
+        <source>Record Setting...</source>
+        <translation>녹음 설정...</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>녹음</translation>
+    </message>
+    <message>
+        <source>Input:</source>
+        <translation>입력:</translation>
+    </message>
+    <message>
+        <source>Microfone</source>
+        <translation>마이크</translation>
+    </message>
+    <message>
+        <source>Line In</source>
+        <translation>라인 입력</translation>
+    </message>
+    <message>
+        <source>Attention! Select the Audio Input in the Windows Record Control!</source>
+        <translation>주의! Windows 녹음 컨트롤에서 오디오 입력을 선택하십시오!</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Choose the input the recordings are taken from</source>
+        <translation>녹음에 사용할 입력을 선택합니다</translation>
+    </message>
+    <message>
+        <source>Record...</source>
+        <translation>녹음...</translation>
     </message>
 </context>
 </TS>

@@ -549,6 +549,88 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
     <message>
         <source>Show the long-term average spectrum</source>
         <translation>Mostrar o espectro médio de longo termo (LTAS)</translation>
+        <source>11025 Hz</source>
+        <translation>11025 Hz</translation>
+    </message>
+    <message>
+        <source>22050 Hz</source>
+        <translation>22050 Hz</translation>
+    </message>
+    <message>
+        <source>44100 Hz</source>
+        <translation>44100 Hz</translation>
+    </message>
+    <message>
+        <source>Verify if other Program is using the audio channel or if your audio devices are installed properly!
+Do you want to Continue?</source>
+        <translation>Verifique se outro programa está usando o canal de áudio ou se os seus dispositivos de áudio estão instalados corretamente!
+Deseja continuar?</translation>
+    </message>
+    <message>
+        <source>Mic. Input can´t be found!
+Do You want to Continue?</source>
+        <translation>A entrada de microfone não foi encontrada!
+Deseja continuar?</translation>
+    </message>
+    <message>
+        <source>Warning! It´s not Possible to Define the Selected Input!</source>
+        <translation>Aviso! Não é possível definir a entrada selecionada!</translation>
+    </message>
+    <message>
+        <source>Playback and Record Volume</source>
+        <translation>Volume de reprodução e gravação</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>Controle de volume</translation>
+    </message>
+    <message>
+        <source>Wave Sound</source>
+        <translation>Som Wave</translation>
+    </message>
+    <message>
+        <source>Mic</source>
+        <translation>Mic</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linha</translation>
+    </message>
+    <message>
+        <source>Record Setting...</source>
+        <translation>Configuração de gravação...</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Gravação</translation>
+    </message>
+    <message>
+        <source>Input:</source>
+        <translation>Entrada:</translation>
+    </message>
+    <message>
+        <source>Microfone</source>
+        <translation>Microfone</translation>
+    </message>
+    <message>
+        <source>Line In</source>
+        <translation>Entrada de linha</translation>
+    </message>
+    <message>
+        <source>Attention! Select the Audio Input in the Windows Record Control!</source>
+        <translation>Atenção! Selecione a entrada de áudio no controle de gravação do Windows!</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Choose the input the recordings are taken from</source>
+        <translation>Escolher a entrada da qual as gravações são feitas</translation>
+    </message>
+    <message>
+        <source>Record...</source>
+        <translation>Gravação...</translation>
     </message>
 </context>
 </TS>

@@ -13,6 +13,7 @@
 
 #include "app/CommandLineInfo.h"
 #include "app/DesktopPrograms.h"
+#include "app/MixerVolumes.h"
 #include "app/ScreenCheck.h"
 #include "app/SettingsFiles.h"
 
@@ -51,6 +52,8 @@ public:
     bool Licensed = true;
     // How the desktop's settings programs are started.
     ProgramStarter startProgram = StartDetached;
+    // How the frame makes its mixer lines; empty for a program that sets no levels of its own.
+    MixerVolumes::Factory makeVolume = makeSoundServerVolume;
 
     const std::filesystem::path& home() const { return m_home; }
     Prompt& prompt() { return m_prompt; }

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QtGlobal>
 
+#include "app/DialogButtons.h"
 #include "app/SettingsFiles.h"
 #include "store/LoadedRecording.h"
 
@@ -25,7 +26,6 @@ inline constexpr std::string_view kNewClientButton = QT_TRANSLATE_NOOP("Sonalys"
 inline constexpr std::string_view kOtherFilesButton = QT_TRANSLATE_NOOP("Sonalys", "Other &Files");
 inline constexpr std::string_view kPersonalInformationButton = QT_TRANSLATE_NOOP("Sonalys", "&Personal Information");
 inline constexpr std::string_view kDeleteClientButton = QT_TRANSLATE_NOOP("Sonalys", "&Delete Client");
-inline constexpr std::string_view kCloseButton = QT_TRANSLATE_NOOP("Sonalys", "&Close");
 
 inline constexpr std::string_view kTypeNameToSearch =
     QT_TRANSLATE_NOOP("Sonalys", "Type the Client´s name you want to search!");

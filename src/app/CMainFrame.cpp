@@ -17,9 +17,12 @@
 #include "app/CAboutDlg.h"
 #include "app/CAbrirPaciente.h"
 #include "app/CAbrirSessao.h"
+#include "app/CConfGravar.h"
 #include "app/CPaciente.h"
+#include "app/CVolume.h"
 #include "app/DesktopPrograms.h"
 #include "app/HelpBrowser.h"
+#include "app/MixerVolumes.h"
 #include "app/TableText.h"
 #include "audio/CrashMarker.h"
 #include "audio/QtWaveInDevice.h"
@@ -77,6 +80,8 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     createToolBar();
     createStatusBar();
     RecordInput = ReadRecordInput(m_home, 0);
+    m_mixer = new MixerVolumes(this);
+    m_mixer->SetUp(app.makeVolume, RecordInput, m_prompt);
     f0Range = kStartF0Range;
     CurrentClient = PacienteRecord{};
     // A first start in an empty data root simply has an empty client base.
@@ -332,6 +337,9 @@ void CMainFrame::createCommands() {
     QMenu* settings = addMenu(kMenuSettings);
     connect(addCommand(settings, kIdVolume, kCommandVolume, kTipVolume, nullptr), &QAction::triggered, this,
             &CMainFrame::volume);
+    connect(addCommand(settings, kIdRecordSettings, FindViewCommand(kIdRecordSettings)->text, kTipRecordSettings,
+                       nullptr, notRecording),
+            &QAction::triggered, this, &CMainFrame::RecordSetting);
     QMenu* language = settings->addMenu(QString());
     m_menus.push_back({language, kMenuLanguage});
     connect(language, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
@@ -441,8 +449,23 @@ void CMainFrame::ShowBusyText(const QString& text) {
 QString CMainFrame::busyText() const { return m_busyText->isVisible() ? m_busyText->text() : QString(); }
 
 void CMainFrame::volume() {
-    // No mixer of our own is up: the desktop's volume control takes over.
-    if (!StartFirstProgram(VolumeControlPrograms(), m_app.startProgram)) m_prompt.showOk(kVolumeControlFailed);
+    // Without the master level no mixer of our own is up: the desktop's volume control takes over.
+    if (m_mixer->line(MixerLine::Master) == nullptr) {
+        if (!StartFirstProgram(VolumeControlPrograms(), m_app.startProgram)) m_prompt.showOk(kVolumeControlFailed);
+        return;
+    }
+    CVolume dialog(*m_mixer, RecordInput, this);
+    dialog.exec();
+    raise();
+    activateWindow();
+    setFocus();
+}
+
+void CMainFrame::RecordSetting() {
+    CConfGravar dialog(RecordInput, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    RecordInput = ApplyRecordInput(RecordInput, dialog.Input(), *m_mixer, m_prompt, m_home);
+    m_view->update();
 }
 
 void CMainFrame::contents() {

@@ -20,6 +20,7 @@
 
 class CAFApp;
 class CAFView;
+class MixerVolumes;
 class CPacienteTable;
 class QAction;
 class QLabel;
@@ -61,6 +62,8 @@ inline constexpr std::string_view kTipDeleteClient =
 inline constexpr std::string_view kTipExit = QT_TRANSLATE_NOOP("Sonalys", "Quit the program");
 inline constexpr std::string_view kTipOpenRecording = QT_TRANSLATE_NOOP("Sonalys", "Open a recording of the client");
 inline constexpr std::string_view kTipVolume = QT_TRANSLATE_NOOP("Sonalys", "Set the recording and playing volume");
+inline constexpr std::string_view kTipRecordSettings =
+    QT_TRANSLATE_NOOP("Sonalys", "Choose the input the recordings are taken from");
 inline constexpr std::string_view kTipEnglish = QT_TRANSLATE_NOOP("Sonalys", "Show the program in English");
 inline constexpr std::string_view kTipKorean = QT_TRANSLATE_NOOP("Sonalys", "Show the program in Korean");
 inline constexpr std::string_view kTipContents = QT_TRANSLATE_NOOP("Sonalys", "Open the user guide");
@@ -106,6 +109,7 @@ public:
     bool isIdle() const;
 
     CPacienteTable& table() { return *m_table; }
+    MixerVolumes& mixer() { return *m_mixer; }
     Prompt& prompt() { return m_prompt; }
     const std::filesystem::path& home() const { return m_home; }
     LanguageId languageId() const;
@@ -124,6 +128,7 @@ public slots:
     void deleteClient();
     void openRecording();
     void volume();
+    void RecordSetting();
     void contents();
     void about();
     void languageEnglish();
@@ -174,6 +179,7 @@ private:
     std::filesystem::path m_home;
     std::unique_ptr<CPacienteTable> m_table;
     CAFView* m_view = nullptr;
+    MixerVolumes* m_mixer = nullptr;
     QToolBar* m_toolBar = nullptr;
     QLabel* m_busyText = nullptr;
     QLabel* m_ready = nullptr;

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QtGlobal>
 
+#include "app/DialogButtons.h"
 #include "app/SettingsFiles.h"
 #include "clients/PacienteRecord.h"
 
@@ -21,7 +22,6 @@ struct Prompt;
 inline constexpr std::string_view kClientFormTitle = QT_TRANSLATE_NOOP("Sonalys", "Client");
 inline constexpr std::string_view kInsertButton = QT_TRANSLATE_NOOP("Sonalys", "Insert");
 inline constexpr std::string_view kChangeButton = QT_TRANSLATE_NOOP("Sonalys", "Change");
-inline constexpr std::string_view kCancelButton = QT_TRANSLATE_NOOP("Sonalys", "Cancel");
 inline constexpr std::string_view kCodeLabel = QT_TRANSLATE_NOOP("Sonalys", "Code:");
 inline constexpr std::string_view kNameLabel = QT_TRANSLATE_NOOP("Sonalys", "Name:");
 inline constexpr std::string_view kTypeLabel = QT_TRANSLATE_NOOP("Sonalys", "Type:");

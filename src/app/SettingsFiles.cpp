@@ -44,3 +44,8 @@ int ReadRecordInput(const std::filesystem::path& home, int current) {
     const auto values = ReadSettingInts(home / kRecordInputFile, 1);
     return values ? (*values)[0] : current;
 }
+
+bool WriteRecordInput(const std::filesystem::path& home, int input) {
+    const std::int32_t value = input;
+    return WriteSettingInts(home / kRecordInputFile, std::span(&value, 1));
+}

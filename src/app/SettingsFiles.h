@@ -29,3 +29,4 @@ bool WriteLanguage(const std::filesystem::path& home, LanguageId language);
 int ReadScreenMode(const std::filesystem::path& home);
 // The record input of cfr.dat, or `current` unchanged when the file is missing.
 int ReadRecordInput(const std::filesystem::path& home, int current);
+bool WriteRecordInput(const std::filesystem::path& home, int input);

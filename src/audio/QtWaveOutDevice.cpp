@@ -43,6 +43,11 @@ QtWaveOutDevice::~QtWaveOutDevice() {
     std::exchange(m_retired, {}).clear();
 }
 
+void QtWaveOutDevice::setStreamVolume(double volume) {
+    m_volume = volume;
+    if (m_sink) m_sink->setVolume(volume);
+}
+
 int QtWaveOutDevice::query(const WaveFormat& format) {
     const std::optional<QAudioFormat> qtFormat = toQAudioFormat(format);
     if (!qtFormat) return WAVERR_BADFORMAT;
@@ -58,6 +63,7 @@ int QtWaveOutDevice::open(const WaveFormat& format, WaveOutEvents& events) {
     m_sink = std::make_unique<QAudioSink>(QMediaDevices::defaultAudioOutput(), m_format);
     const int frame = m_format.bytesPerFrame();
     m_sink->setBufferSize(std::max(frame, m_format.bytesForDuration(kStreamMicroseconds) / frame * frame));
+    m_sink->setVolume(m_volume);
     if (!ensureStream()) {
         retireSink();
         return MMSYSERR_NODRIVER;

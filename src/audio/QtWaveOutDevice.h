@@ -12,13 +12,15 @@
 #include <memory>
 #include <vector>
 
+#include "audio/CVolumeOutWave.h"
 #include "audio/DeviceEventQueue.h"
 #include "audio/WaveDevice.h"
 
 class QAudioSink;
 class QIODevice;
 
-class QtWaveOutDevice : public WaveOutDevice {
+// Its volume is the program's wave level: kept while no stream is open, and given to each new stream.
+class QtWaveOutDevice : public WaveOutDevice, public StreamVolume {
 public:
     QtWaveOutDevice();
     ~QtWaveOutDevice() override;
@@ -33,6 +35,9 @@ public:
     int reset() override;
     int close() override;
     bool isOpen() const override { return m_sink != nullptr && !m_closing; }
+
+    double streamVolume() const override { return m_volume; }
+    void setStreamVolume(double volume) override;
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -69,6 +74,7 @@ private:
     bool m_paused = false;
     bool m_failed = false;
     bool m_closing = false;
+    double m_volume = 1.0;
     bool m_primed = false;  // sound has gone into the stream since it started
     Clock::time_point m_pausedAt;
     Clock::time_point m_lastDue;

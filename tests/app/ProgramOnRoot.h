@@ -16,6 +16,7 @@ struct ProgramOnRoot {
     explicit ProgramOnRoot(const std::filesystem::path& root, LanguageId language = LanguageId::English) {
         app = std::make_unique<CAFApp>(root, prompt);
         app->startProgram = [](const QString&, const QStringList&) { return false; };
+        app->makeVolume = nullptr;  // the machine's own sound server is left alone
         app->InitInstance({"sonalys", "-Embedding"});
         if (language != LanguageId::English) {
             app->setLanguageId(language);
