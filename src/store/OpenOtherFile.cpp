@@ -46,5 +46,5 @@ OtherFileOpening OpenOtherFile(LoadedRecording& recording, const std::filesystem
     recording.RecordingPath = path;
     recording.Modified = false;
     const std::string name = path.string();
-    return {OtherFileResult::Opened, formatText(kOtherFileTitle.data(), name.c_str())};
+    return {OtherFileResult::Opened, formatText(prompt.inLanguage(kOtherFileTitle).c_str(), name.c_str())};
 }
