@@ -925,5 +925,117 @@ It was not possible to read additional information about the sound file!</source
         <source>Error Allocating Buffer</source>
         <translation>Error al reservar el búfer</translation>
     </message>
+    <message>
+        <source>Update Rate</source>
+        <translation>Frecuencia de actualización</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Límite</translation>
+    </message>
+    <message>
+        <source>rate</source>
+        <translation>tasa</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>Start or stop recording</source>
+        <translation>Iniciar o detener la grabación</translation>
+    </message>
+    <message>
+        <source>Pause or resume the recording</source>
+        <translation>Pausar o reanudar la grabación</translation>
+    </message>
+    <message>
+        <source>Choose the sample rate of new recordings</source>
+        <translation>Elegir la frecuencia de muestreo de las nuevas grabaciones</translation>
+    </message>
+    <message>
+        <source>Play or stop the recording</source>
+        <translation>Reproducir o detener la grabación</translation>
+    </message>
+    <message>
+        <source>Pause or resume playing</source>
+        <translation>Pausar o reanudar la reproducción</translation>
+    </message>
+    <message>
+        <source>How often the picture follows the sound while recording or playing</source>
+        <translation>Con qué frecuencia la imagen sigue al sonido durante la grabación o la reproducción</translation>
+    </message>
+    <message>
+        <source>Highest frequency shown</source>
+        <translation>Frecuencia máxima mostrada</translation>
+    </message>
+    <message>
+        <source>F₀</source>
+        <translation>F₀</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Banda</translation>
+    </message>
+    <message>
+        <source>Formants</source>
+        <translation>Formantes</translation>
+    </message>
+    <message>
+        <source>Colours of the spectrogram</source>
+        <translation>Colores del espectrograma</translation>
+    </message>
+    <message>
+        <source>Analysis bandwidth of the spectrogram</source>
+        <translation>Ancho de banda de análisis del espectrograma</translation>
+    </message>
+    <message>
+        <source>Show the F0 curve and its read-out</source>
+        <translation>Mostrar la curva de F0 y su lectura</translation>
+    </message>
+    <message>
+        <source>Show the formants</source>
+        <translation>Mostrar los formantes</translation>
+    </message>
+    <message>
+        <source>Show or hide the spectrogram</source>
+        <translation>Mostrar u ocultar el espectrograma</translation>
+    </message>
+    <message>
+        <source>Dynamic range: drag the pointer, or use the arrow keys</source>
+        <translation>Rango dinámico: arrastre el indicador o use las flechas del teclado</translation>
+    </message>
+    <message>
+        <source>FFT Size</source>
+        <translation>Tamaño de la FFT</translation>
+    </message>
+    <message>
+        <source>Visualisation</source>
+        <translation>Visualización</translation>
+    </message>
+    <message>
+        <source>LTAS</source>
+        <translation>LTAS</translation>
+    </message>
+    <message>
+        <source>Solid  </source>
+        <translation>Sólido  </translation>
+    </message>
+    <message>
+        <source>Colour of the spectrum&apos;s curve</source>
+        <translation>Color de la curva del espectro</translation>
+    </message>
+    <message>
+        <source>Points of each spectrum: more points, finer frequency detail</source>
+        <translation>Puntos de cada espectro: más puntos, más detalle en frecuencia</translation>
+    </message>
+    <message>
+        <source>Draw the spectrum as a filled area or as a line</source>
+        <translation>Dibujar el espectro como área rellena o como línea</translation>
+    </message>
+    <message>
+        <source>Show the long-term average spectrum</source>
+        <translation>Mostrar el espectro promedio a largo plazo (LTAS)</translation>
+    </message>
 </context>
 </TS>

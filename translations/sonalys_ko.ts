@@ -925,5 +925,117 @@ It was not possible to read additional information about the sound file!</source
         <source>Error Allocating Buffer</source>
         <translation>버퍼 할당 오류</translation>
     </message>
+    <message>
+        <source>Update Rate</source>
+        <translation>갱신 주기</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>상한</translation>
+    </message>
+    <message>
+        <source>rate</source>
+        <translation>샘플링</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>색상</translation>
+    </message>
+    <message>
+        <source>Start or stop recording</source>
+        <translation>녹음 시작 또는 정지</translation>
+    </message>
+    <message>
+        <source>Pause or resume the recording</source>
+        <translation>녹음 일시 정지 또는 계속</translation>
+    </message>
+    <message>
+        <source>Choose the sample rate of new recordings</source>
+        <translation>새 녹음의 샘플링 주파수 선택</translation>
+    </message>
+    <message>
+        <source>Play or stop the recording</source>
+        <translation>녹음 재생 또는 정지</translation>
+    </message>
+    <message>
+        <source>Pause or resume playing</source>
+        <translation>재생 일시 정지 또는 계속</translation>
+    </message>
+    <message>
+        <source>How often the picture follows the sound while recording or playing</source>
+        <translation>녹음 또는 재생 중 화면이 소리를 따라 갱신되는 간격</translation>
+    </message>
+    <message>
+        <source>Highest frequency shown</source>
+        <translation>표시되는 최고 주파수</translation>
+    </message>
+    <message>
+        <source>F₀</source>
+        <translation>F₀</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>대역폭</translation>
+    </message>
+    <message>
+        <source>Formants</source>
+        <translation>포먼트</translation>
+    </message>
+    <message>
+        <source>Colours of the spectrogram</source>
+        <translation>스펙트로그램 색상</translation>
+    </message>
+    <message>
+        <source>Analysis bandwidth of the spectrogram</source>
+        <translation>스펙트로그램 분석 대역폭</translation>
+    </message>
+    <message>
+        <source>Show the F0 curve and its read-out</source>
+        <translation>기본주파수(F0) 곡선과 수치 표시</translation>
+    </message>
+    <message>
+        <source>Show the formants</source>
+        <translation>포먼트 표시</translation>
+    </message>
+    <message>
+        <source>Show or hide the spectrogram</source>
+        <translation>스펙트로그램 표시 또는 숨기기</translation>
+    </message>
+    <message>
+        <source>Dynamic range: drag the pointer, or use the arrow keys</source>
+        <translation>동적 범위: 포인터를 끌거나 화살표 키를 사용하십시오</translation>
+    </message>
+    <message>
+        <source>FFT Size</source>
+        <translation>FFT 크기</translation>
+    </message>
+    <message>
+        <source>Visualisation</source>
+        <translation>표시 방식</translation>
+    </message>
+    <message>
+        <source>LTAS</source>
+        <translation>LTAS</translation>
+    </message>
+    <message>
+        <source>Solid  </source>
+        <translation>채움  </translation>
+    </message>
+    <message>
+        <source>Colour of the spectrum&apos;s curve</source>
+        <translation>스펙트럼 곡선 색상</translation>
+    </message>
+    <message>
+        <source>Points of each spectrum: more points, finer frequency detail</source>
+        <translation>각 스펙트럼의 점 수: 점이 많을수록 주파수가 더 세밀합니다</translation>
+    </message>
+    <message>
+        <source>Draw the spectrum as a filled area or as a line</source>
+        <translation>스펙트럼을 채운 영역 또는 선으로 표시</translation>
+    </message>
+    <message>
+        <source>Show the long-term average spectrum</source>
+        <translation>장시간 평균 스펙트럼(LTAS) 표시</translation>
+    </message>
 </context>
 </TS>

@@ -925,5 +925,117 @@ Não foi possível ler as informações adicionais do arquivo de som!</translati
         <source>Error Allocating Buffer</source>
         <translation>Erro ao alocar o buffer</translation>
     </message>
+    <message>
+        <source>Update Rate</source>
+        <translation>Taxa de atualização</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>rate</source>
+        <translation>taxa</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Cores</translation>
+    </message>
+    <message>
+        <source>Start or stop recording</source>
+        <translation>Iniciar ou parar a gravação</translation>
+    </message>
+    <message>
+        <source>Pause or resume the recording</source>
+        <translation>Pausar ou retomar a gravação</translation>
+    </message>
+    <message>
+        <source>Choose the sample rate of new recordings</source>
+        <translation>Escolher a taxa de amostragem das novas gravações</translation>
+    </message>
+    <message>
+        <source>Play or stop the recording</source>
+        <translation>Reproduzir ou parar a gravação</translation>
+    </message>
+    <message>
+        <source>Pause or resume playing</source>
+        <translation>Pausar ou retomar a reprodução</translation>
+    </message>
+    <message>
+        <source>How often the picture follows the sound while recording or playing</source>
+        <translation>Com que frequência a imagem acompanha o som durante a gravação ou a reprodução</translation>
+    </message>
+    <message>
+        <source>Highest frequency shown</source>
+        <translation>Frequência máxima exibida</translation>
+    </message>
+    <message>
+        <source>F₀</source>
+        <translation>F₀</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Banda</translation>
+    </message>
+    <message>
+        <source>Formants</source>
+        <translation>Formantes</translation>
+    </message>
+    <message>
+        <source>Colours of the spectrogram</source>
+        <translation>Cores do espectrograma</translation>
+    </message>
+    <message>
+        <source>Analysis bandwidth of the spectrogram</source>
+        <translation>Largura de banda de análise do espectrograma</translation>
+    </message>
+    <message>
+        <source>Show the F0 curve and its read-out</source>
+        <translation>Mostrar a curva de F0 e a sua leitura</translation>
+    </message>
+    <message>
+        <source>Show the formants</source>
+        <translation>Mostrar os formantes</translation>
+    </message>
+    <message>
+        <source>Show or hide the spectrogram</source>
+        <translation>Mostrar ou ocultar o espectrograma</translation>
+    </message>
+    <message>
+        <source>Dynamic range: drag the pointer, or use the arrow keys</source>
+        <translation>Faixa dinâmica: arraste o indicador ou use as setas do teclado</translation>
+    </message>
+    <message>
+        <source>FFT Size</source>
+        <translation>Tamanho da FFT</translation>
+    </message>
+    <message>
+        <source>Visualisation</source>
+        <translation>Visualização</translation>
+    </message>
+    <message>
+        <source>LTAS</source>
+        <translation>LTAS</translation>
+    </message>
+    <message>
+        <source>Solid  </source>
+        <translation>Sólido  </translation>
+    </message>
+    <message>
+        <source>Colour of the spectrum&apos;s curve</source>
+        <translation>Cor da curva do espectro</translation>
+    </message>
+    <message>
+        <source>Points of each spectrum: more points, finer frequency detail</source>
+        <translation>Pontos de cada espectro: mais pontos, mais detalhe em frequência</translation>
+    </message>
+    <message>
+        <source>Draw the spectrum as a filled area or as a line</source>
+        <translation>Desenhar o espectro como área preenchida ou como linha</translation>
+    </message>
+    <message>
+        <source>Show the long-term average spectrum</source>
+        <translation>Mostrar o espectro médio de longo termo (LTAS)</translation>
+    </message>
 </context>
 </TS>

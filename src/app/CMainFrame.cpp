@@ -22,9 +22,15 @@
 #include "app/HelpBrowser.h"
 #include "app/TableText.h"
 #include "audio/CrashMarker.h"
+#include "audio/QtWaveInDevice.h"
+#include "audio/QtWaveOutDevice.h"
+#include "audio/SoundSystemExit.h"
+#include "audio/WavePlayer.h"
+#include "audio/WaveRecorder.h"
 #include "clients/CPacienteTable.h"
 #include "controls/FileDialogMemory.h"
 #include "controls/UiText.h"
+#include "panels/CMyBarra.h"
 #include "store/FileLookup.h"
 #include "store/Prompt.h"
 #include "store/RecordingDeletion.h"
@@ -78,10 +84,30 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     m_table->SetFileName(std::string(kClientTableName));
     if (!m_table->TableExists()) m_table->CreateTable();
     setDocumentTitle(QString());
+    createAudioEngines();
     UpdateCommands();
 }
 
-CMainFrame::~CMainFrame() = default;
+CMainFrame::~CMainFrame() {
+    m_view->setAudioEngines(nullptr, nullptr);
+    // A stream closed just before the end must be answered by the sound server before the process goes.
+    const bool soundUsed = m_recorder->finishState() != 0 || m_recorder->deviceOpen() || m_player->deviceOpen();
+    m_player.reset();
+    m_recorder.reset();
+    m_waveOut.reset();
+    m_waveIn.reset();
+    if (soundUsed) letSoundSystemSettle();
+}
+
+void CMainFrame::createAudioEngines() {
+    m_waveIn = std::make_unique<QtWaveInDevice>();
+    m_waveOut = std::make_unique<QtWaveOutDevice>();
+    m_recorder = std::make_unique<WaveRecorder>(*m_waveIn, m_prompt, m_home);
+    m_player = std::make_unique<WavePlayer>(*m_waveOut, m_prompt);
+    m_view->setAudioEngines(m_recorder.get(), m_player.get());
+    // The Update Rate left by a recording that never ended.
+    m_view->spectrogramPanel()->SetUpdateRateIndex(RememberedUpdateRateIndex);
+}
 
 bool CMainFrame::isIdle() const { return m_view->isIdle(); }
 

@@ -25,6 +25,10 @@ class QAction;
 class QLabel;
 class QMenu;
 class QToolBar;
+class QtWaveInDevice;
+class QtWaveOutDevice;
+class WavePlayer;
+class WaveRecorder;
 struct Prompt;
 
 // Menus and their commands.
@@ -184,4 +188,11 @@ private:
     std::vector<QAction*> m_recentActions;
     RecentFileList m_recentFiles;
     QPointer<QWidget> m_help;
+
+    // The sound devices and the single capture and playback engines, made with the frame and lent to the view.
+    void createAudioEngines();
+    std::unique_ptr<QtWaveInDevice> m_waveIn;
+    std::unique_ptr<QtWaveOutDevice> m_waveOut;
+    std::unique_ptr<WaveRecorder> m_recorder;
+    std::unique_ptr<WavePlayer> m_player;
 };

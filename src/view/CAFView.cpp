@@ -14,6 +14,8 @@
 #include <QTimer>
 
 #include "controls/UiText.h"
+#include "panels/CMyBarra.h"
+#include "panels/CMyBarra2.h"
 #include "panels/PictureAxes.h"
 #include "store/Prompt.h"
 #include "store/TextFormat.h"
@@ -48,10 +50,15 @@ CAFView::CAFView(Prompt& prompt, QWidget* parent)
     m_sharpenTimer->setInterval(kSharpenDelay);
     connect(m_sharpenTimer, &QTimer::timeout, this, &CAFView::sharpenPicture);
     createCommands();
+    createPanels();
     setScreenSize(screen() != nullptr ? screen()->size() : QSize(1024, 768));
 }
 
-CAFView::~CAFView() = default;
+CAFView::~CAFView() {
+    // The panels are destroyed after the view's own part: no hold may reach the view through them then.
+    m_spectrogramPanel->setAudio(nullptr);
+    m_spectrumPanel->setAudio(nullptr);
+}
 
 // ---------------------------------------------------------------------------------------------------------------
 // Layout and state
@@ -147,6 +154,8 @@ void CAFView::retranslate() {
     for (QAction* item : m_contextMenu->actions()) {
         if (const ViewCommand* command = FindViewCommand(item->data().toInt())) item->setText(uiText(command->text));
     }
+    m_spectrogramPanel->retranslate();
+    m_spectrumPanel->retranslate();
     rebuildPage(false);
     update();
 }
@@ -204,6 +213,10 @@ void CAFView::CloseRecording() {
     m_pictureComputed = false;
     m_spectrumObject.setValid(false);
     m_wholeSpectrum.reset();
+    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+        panel->Reset();
+        panel->EnablePlay(false);
+    }
     clearReadOut();
     UpdateCommands();
 }
@@ -289,18 +302,18 @@ int CAFView::loadFileSteps(DisplayMode remembered) {
     m_pictureComputed = false;
     m_spectrumObject.setValid(false);
     m_wholeSpectrum.reset();
+    m_spectrogramPanel->EnablePlay(true);
+    m_spectrumPanel->EnablePlay(true);
     RedrawAll();
     return 1;
 }
 
-// The rate goes to both analysis objects, and the Limit list of the rate selects its upper frequency.
+// The rate goes to both analysis objects and both panels, whose Limit lists of the rate select the upper frequency.
 void CAFView::applyRate(int sampleRate) {
     m_spectrogramObject.setSampleRate(sampleRate);
     m_spectrumObject.setSampleRate(sampleRate);
-    if (const auto limit = DefaultLimit(sampleRate)) {
-        m_spectrogramObject.setMaxFrequency(*limit);
-        m_spectrumObject.setMaxFrequency(static_cast<float>(*limit));
-    }
+    m_spectrogramPanel->FillLimitList(sampleRate);
+    m_spectrumPanel->FillLimitList(sampleRate);
     m_spectrogramObject.setBandwidth(m_spectrogramSettings.bandwidth);
     m_spectrumObject.setFftSize(m_spectrumSettings.fftSize);
 }
@@ -310,6 +323,7 @@ void CAFView::ShowSpectrogramPage() {
     stopAudio();
     m_displayMode = ModeAfterShowSpectrogram(m_displayMode, m_recording.hasSamples());
     resetLivePage();
+    applyPanelOfPage();
     RedrawAll();
 }
 
@@ -317,6 +331,7 @@ void CAFView::ShowSpectrumPage() {
     stopAudio();
     m_displayMode = ModeAfterShowSpectrum(m_recording.hasSamples());
     resetLivePage();
+    applyPanelOfPage();
     RedrawAll();
 }
 
@@ -480,6 +495,7 @@ QString CAFView::durationText() const {
 }
 
 void CAFView::rebuildPage(bool dropSelection) {
+    placePanels();
     const qreal ratio = devicePixelRatioF();
     const QSize device(std::max(1, static_cast<int>(std::lround(width() * ratio))),
                        std::max(1, static_cast<int>(std::lround(height() * ratio))));

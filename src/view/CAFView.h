@@ -18,6 +18,7 @@
 
 #include "analysis/PowerSpectrum.h"
 #include "analysis/Spectrogram.h"
+#include "panels/ClassAux.h"
 #include "panels/PanelDefaults.h"
 #include "panels/SpectrogramPicture.h"
 #include "panels/SpectrumPicture.h"
@@ -32,10 +33,14 @@
 #include "view/ViewLayout.h"
 #include "view/WaveStrip.h"
 
+class CMyBarra;
+class CMyBarra2;
 class QAction;
 class QMenu;
 class QTimer;
 struct Prompt;
+class WavePlayer;
+class WaveRecorder;
 
 inline constexpr std::string_view kEmptyViewLine =
     QT_TRANSLATE_NOOP("Sonalys", "Voice and speech analysis for speech therapy");
@@ -43,7 +48,7 @@ inline constexpr std::string_view kEmptyViewLine =
 inline constexpr std::string_view kNoAdditionalInformation = QT_TRANSLATE_NOOP(
     "Sonalys", "Attention!\nIt was not possible to read additional information about the sound file!");
 
-class CAFView : public QWidget {
+class CAFView : public QWidget, public PanelAudio {
     Q_OBJECT
 public:
     explicit CAFView(Prompt& prompt, QWidget* parent = nullptr);
@@ -138,6 +143,22 @@ public:
     // The spectrogram's pixels on the device: where the picture is painted one column per pixel.
     QRect pictureDeviceRect() const;
 
+    // ---- Side panels and the audio engines
+    // The panel of the page on screen: CMyBarra on the spectrogram page, CMyBarra2 on the power-spectrum page, none
+    // on the empty view.
+    ClassAux* ActivePanel() const;
+    CMyBarra* spectrogramPanel() const { return m_spectrogramPanel; }
+    CMyBarra2* spectrumPanel() const { return m_spectrumPanel; }
+    // The single capture and playback engines, owned by the main window; none in a view on its own.
+    void setAudioEngines(WaveRecorder* recorder, WavePlayer* player);
+    // Captured buffers are thrown away while this is set: an open list or a recomputation holds the window.
+    bool RecordPaused = false;
+    bool isPlaying() const override { return Playing; }
+    bool isZoomed() const override { return m_zoomed; }
+    void PausePlay() override;
+    void RestartPlay() override;
+    void SetRecordPaused(bool paused) override { RecordPaused = paused; }
+
 signals:
     // The state the commands depend on has changed.
     void commandsChanged();
@@ -187,6 +208,25 @@ private:
     void clearReadOut();
     bool canRun(int id) const;
 
+    // Side panels: made once, placed over the band above the graph through the page's mapping, and what each of
+    // their changes does to the pictures.
+    void createPanels();
+    void placePanels();
+    void applyPanelOfPage();
+    void redrawKeepingSelection();
+    void onSpectrogramChange();
+    void onBand(int hz);
+    void onSpectrogramLimit(int hz);
+    void onSpectrumLimit(int hz);
+    void onDynamicRange(int range);
+    void onColourScheme(int scheme);
+    void onFftSize(int size);
+    void onSpectrumStyle(SpectrumStyle style);
+    void onLtas(bool on);
+    void onCurveColour(const QColor& colour);
+    void onUpdateRate(int bytes, int index);
+    void redrawSpectrumPage(bool withoutPlay);
+
     Prompt& m_prompt;
     CAFDoc* m_doc;
     ViewLayout m_layout;
@@ -229,4 +269,9 @@ private:
     std::vector<CommandAction> m_commands;
     QMenu* m_contextMenu = nullptr;
     QTimer* m_sharpenTimer = nullptr;
+
+    CMyBarra* m_spectrogramPanel = nullptr;
+    CMyBarra2* m_spectrumPanel = nullptr;
+    WaveRecorder* m_recorder = nullptr;
+    WavePlayer* m_player = nullptr;
 };
