@@ -15,8 +15,8 @@ packages=(
     qt6-base-dev qt6-multimedia-dev libpulse-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6
     libxkbcommon-dev libgl-dev
     libmp3lame-dev libmpg123-dev libfftw3-dev
-    fonts-dejavu-core fonts-liberation fonts-liberation2
-    sox libsox-fmt-all espeak-ng gdal-bin dbview praat libpulse-dev
+    fonts-dejavu-core fonts-liberation fonts-liberation2 fonts-noto-cjk
+    sox libsox-fmt-all espeak-ng gdal-bin dbview praat
     pulseaudio pulseaudio-utils xvfb xauth
 )
 

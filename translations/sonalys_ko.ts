@@ -5,434 +5,925 @@
     <name>Sonalys</name>
     <message>
         <source>About Sonalys</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonalys 정보</translation>
     </message>
     <message>
         <source>version 4.2</source>
-        <translation type="unfinished"></translation>
+        <translation>버전 4.2</translation>
     </message>
     <message>
         <source>Trial Version</source>
-        <translation type="unfinished"></translation>
+        <translation>평가판</translation>
     </message>
     <message>
         <source>%.1f MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%.1f MB</translation>
     </message>
     <message>
         <source>Physical memory:</source>
-        <translation type="unfinished"></translation>
+        <translation>실제 메모리:</translation>
     </message>
     <message>
         <source>Operating system:</source>
-        <translation type="unfinished"></translation>
+        <translation>운영 체제:</translation>
     </message>
     <message>
         <source>Select a Client</source>
-        <translation type="unfinished"></translation>
+        <translation>환자 선택</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>번호</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름</translation>
     </message>
     <message>
         <source>Name begins with:</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 시작 글자:</translation>
     </message>
     <message>
         <source>&amp;Search</source>
-        <translation type="unfinished"></translation>
+        <translation>검색(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>열기(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;New Client</source>
-        <translation type="unfinished"></translation>
+        <translation>새 환자(&amp;N)</translation>
     </message>
     <message>
         <source>Other &amp;Files</source>
-        <translation type="unfinished"></translation>
+        <translation>기타 파일(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Personal Information</source>
-        <translation type="unfinished"></translation>
+        <translation>인적 사항(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Delete Client</source>
-        <translation type="unfinished"></translation>
+        <translation>환자 삭제(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;C)</translation>
     </message>
     <message>
         <source>Type the Client´s name you want to search!</source>
-        <translation type="unfinished"></translation>
+        <translation>검색할 환자의 이름을 입력하십시오!</translation>
     </message>
     <message>
         <source>Client not found!</source>
-        <translation type="unfinished"></translation>
+        <translation>환자를 찾을 수 없습니다!</translation>
     </message>
     <message>
         <source>You need to select a Item!</source>
-        <translation type="unfinished"></translation>
+        <translation>항목을 선택해야 합니다!</translation>
     </message>
     <message>
         <source>Error Reading File</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 읽기 오류</translation>
     </message>
     <message>
         <source>Attention, All Information about this Client will be deleted!
 Are You sure you want to Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>주의: 이 환자의 모든 정보가 삭제됩니다!
+계속하시겠습니까?</translation>
     </message>
     <message>
         <source>Client´s folder can´t be deleted!</source>
-        <translation type="unfinished"></translation>
+        <translation>환자 폴더를 삭제할 수 없습니다!</translation>
     </message>
     <message>
         <source>%s - Files</source>
-        <translation type="unfinished"></translation>
+        <translation>%s - 파일</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>날짜</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제(&amp;D)</translation>
     </message>
     <message>
         <source>Attention!</source>
-        <translation type="unfinished"></translation>
+        <translation>주의!</translation>
     </message>
     <message>
         <source>Sonalys needs a different video resolution !</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonalys를 사용하려면 다른 화면 해상도가 필요합니다!</translation>
     </message>
     <message>
         <source>Resolution : 800 x 600, 1024 x 768 ou 1280 x 800 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>해상도: 800 x 600, 1024 x 768 또는 1280 x 800 픽셀</translation>
     </message>
     <message>
         <source>Colors: High Color (16 bits) or better</source>
-        <translation type="unfinished"></translation>
+        <translation>색: 하이 컬러(16비트) 이상</translation>
     </message>
     <message>
         <source>Do you want to change the configuration now ?</source>
-        <translation type="unfinished"></translation>
+        <translation>지금 설정을 변경하시겠습니까?</translation>
     </message>
     <message>
         <source>&amp;Client</source>
-        <translation type="unfinished"></translation>
+        <translation>환자(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Files</source>
-        <translation type="unfinished"></translation>
+        <translation>파일(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>언어(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>도움말(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>열기(&amp;O)...</translation>
     </message>
     <message>
         <source>&amp;New...</source>
-        <translation type="unfinished"></translation>
+        <translation>새로 만들기(&amp;N)...</translation>
     </message>
     <message>
         <source>P&amp;ersonal Information...</source>
-        <translation type="unfinished"></translation>
+        <translation>인적 사항(&amp;E)...</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>끝내기(&amp;X)</translation>
     </message>
     <message>
         <source>Volume...</source>
-        <translation type="unfinished"></translation>
+        <translation>볼륨...</translation>
     </message>
     <message>
         <source>&amp;English</source>
-        <translation type="unfinished"></translation>
+        <translation>영어(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>한국어(&amp;K)</translation>
     </message>
     <message>
         <source>Contents...</source>
-        <translation type="unfinished"></translation>
+        <translation>목차...</translation>
     </message>
     <message>
         <source>&amp;About Sonalys...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonalys 정보(&amp;A)...</translation>
     </message>
     <message>
         <source>Choose a client to work with</source>
-        <translation type="unfinished"></translation>
+        <translation>작업할 환자를 선택합니다</translation>
     </message>
     <message>
         <source>Insert a new client</source>
-        <translation type="unfinished"></translation>
+        <translation>새 환자를 등록합니다</translation>
     </message>
     <message>
         <source>See or change the personal information of the client</source>
-        <translation type="unfinished"></translation>
+        <translation>환자의 인적 사항을 보거나 변경합니다</translation>
     </message>
     <message>
         <source>Delete the client and all the client´s recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>환자와 그 환자의 모든 녹음을 삭제합니다</translation>
     </message>
     <message>
         <source>Quit the program</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램을 끝냅니다</translation>
     </message>
     <message>
         <source>Open a recording of the client</source>
-        <translation type="unfinished"></translation>
+        <translation>환자의 녹음을 엽니다</translation>
     </message>
     <message>
         <source>Set the recording and playing volume</source>
-        <translation type="unfinished"></translation>
+        <translation>녹음 및 재생 볼륨을 조절합니다</translation>
     </message>
     <message>
         <source>Show the program in English</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램을 영어로 표시합니다</translation>
     </message>
     <message>
         <source>Show the program in Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램을 한국어로 표시합니다</translation>
     </message>
     <message>
         <source>Open the user guide</source>
-        <translation type="unfinished"></translation>
+        <translation>사용 설명서를 엽니다</translation>
     </message>
     <message>
         <source>Show the version of the program and of the computer</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램 버전과 컴퓨터 정보를 표시합니다</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>준비</translation>
     </message>
     <message>
         <source>Sonalys was not ended properly in the last utilisation. Please, reduce the screen update rate before starting recording a new sound file.</source>
-        <translation type="unfinished"></translation>
+        <translation>지난번 사용할 때 Sonalys가 정상적으로 종료되지 않았습니다. 새 음성 파일을 녹음하기 전에 화면 갱신 속도를 낮추십시오.</translation>
     </message>
     <message>
         <source>Are you sure you want to exit?</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램을 끝내시겠습니까?</translation>
     </message>
     <message>
         <source>Volume Control can´t be  can´t be Inicialized!</source>
-        <translation type="unfinished"></translation>
+        <translation>볼륨 조절을 초기화할 수 없습니다!</translation>
     </message>
     <message>
         <source>Error Acessing Client´s folder !</source>
-        <translation type="unfinished"></translation>
+        <translation>환자 폴더에 접근하는 중 오류가 발생했습니다!</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>기본</translation>
     </message>
     <message>
         <source>Sound File (*.wav)</source>
-        <translation type="unfinished"></translation>
+        <translation>음성 파일 (*.wav)</translation>
     </message>
     <message>
         <source>The sounds of &quot;Other Files&quot; belong to no client: there is no personal information to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;기타 파일&quot;의 음성은 어느 환자에게도 속하지 않으므로 표시할 인적 사항이 없습니다.</translation>
     </message>
     <message>
         <source>Client</source>
-        <translation type="unfinished"></translation>
+        <translation>환자</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>등록</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>변경</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Code:</source>
-        <translation type="unfinished"></translation>
+        <translation>번호:</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>이름:</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>유형:</translation>
     </message>
     <message>
         <source>Man</source>
-        <translation type="unfinished"></translation>
+        <translation>남성</translation>
     </message>
     <message>
         <source>Woman</source>
-        <translation type="unfinished"></translation>
+        <translation>여성</translation>
     </message>
     <message>
         <source>Child</source>
-        <translation type="unfinished"></translation>
+        <translation>아동</translation>
     </message>
     <message>
         <source>Singer</source>
-        <translation type="unfinished"></translation>
+        <translation>가수</translation>
     </message>
     <message>
         <source>Date of birth:</source>
-        <translation type="unfinished"></translation>
+        <translation>생년월일:</translation>
     </message>
     <message>
         <source>(month / day / year)</source>
-        <translation type="unfinished"></translation>
+        <translation>(월 / 일 / 년)</translation>
     </message>
     <message>
         <source>(day / month / year)</source>
-        <translation type="unfinished"></translation>
+        <translation>(일 / 월 / 년)</translation>
     </message>
     <message>
         <source>(year / month / day)</source>
-        <translation type="unfinished"></translation>
+        <translation>(년 / 월 / 일)</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>주소:</translation>
     </message>
     <message>
         <source>City:</source>
-        <translation type="unfinished"></translation>
+        <translation>도시:</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation type="unfinished"></translation>
+        <translation>시/도:</translation>
     </message>
     <message>
         <source>Postal code:</source>
-        <translation type="unfinished"></translation>
+        <translation>우편번호:</translation>
     </message>
     <message>
         <source>Home phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>집 전화:</translation>
     </message>
     <message>
         <source>Work phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>직장 전화:</translation>
     </message>
     <message>
         <source>Observations:</source>
-        <translation type="unfinished"></translation>
+        <translation>비고:</translation>
     </message>
     <message>
         <source>Invalid Day !</source>
-        <translation type="unfinished"></translation>
+        <translation>일이 올바르지 않습니다!</translation>
     </message>
     <message>
         <source>Invalid Month !</source>
-        <translation type="unfinished"></translation>
+        <translation>월이 올바르지 않습니다!</translation>
     </message>
     <message>
         <source>Invalid Year 
 Range: 1890 to 2050</source>
-        <translation type="unfinished"></translation>
+        <translation>연도가 올바르지 않습니다 
+범위: 1890~2050</translation>
     </message>
     <message>
         <source>Invalid Year (it must have 4 digits)
 Sample.: 1974</source>
-        <translation type="unfinished"></translation>
+        <translation>연도가 올바르지 않습니다(네 자리여야 합니다)
+예: 1974</translation>
     </message>
     <message>
         <source>You need to type the client´s name!</source>
-        <translation type="unfinished"></translation>
+        <translation>환자 이름을 입력해야 합니다!</translation>
     </message>
     <message>
         <source>The Client is Man/Woman, Singer or Child?</source>
-        <translation type="unfinished"></translation>
+        <translation>환자는 남성/여성, 가수, 아동 중 어디에 해당합니까?</translation>
     </message>
     <message>
         <source>The Client´s Folder already exist</source>
-        <translation type="unfinished"></translation>
+        <translation>환자 폴더가 이미 있습니다</translation>
     </message>
     <message>
         <source>The client´s folder %s can´t be created!
 The client´s recordings can´t be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>환자 폴더 %s을(를) 만들 수 없습니다!
+환자의 녹음을 보관할 수 없습니다.</translation>
     </message>
     <message>
         <source>This client is no longer in the client table (another user may have deleted it).
 Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 환자는 더 이상 환자 테이블에 없습니다(다른 사용자가 삭제했을 수 있습니다).
+아무것도 변경되지 않았습니다.</translation>
     </message>
     <message>
         <source>Wait, Please...</source>
-        <translation type="unfinished"></translation>
+        <translation>잠시 기다려 주십시오...</translation>
     </message>
     <message>
         <source>Undefined Type!</source>
-        <translation type="unfinished"></translation>
+        <translation>정의되지 않은 유형입니다!</translation>
     </message>
     <message>
         <source>No display settings program was found on this computer.
 Please change the screen resolution in the settings of your desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터에서 디스플레이 설정 프로그램을 찾을 수 없습니다.
+바탕 화면 설정에서 화면 해상도를 변경하십시오.</translation>
     </message>
     <message>
         <source>Sonalys Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonalys 도움말</translation>
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>뒤로(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>앞으로(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>목차(&amp;C)</translation>
     </message>
     <message>
         <source>The screen resolution is higher than the options available!
 Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!</source>
-        <translation type="unfinished"></translation>
+        <translation>화면 해상도가 사용할 수 있는 옵션보다 높습니다!
+다음 화면에서 800 x 600, 1024 x 768 또는 1280 x 800을 선택하십시오!</translation>
     </message>
     <message>
         <source>Error Loading Video Setting Program!</source>
-        <translation type="unfinished"></translation>
+        <translation>디스플레이 설정 프로그램을 불러오는 중 오류가 발생했습니다!</translation>
     </message>
     <message>
         <source>It´s not possible to set the resolution!</source>
-        <translation type="unfinished"></translation>
+        <translation>해상도를 설정할 수 없습니다!</translation>
     </message>
     <message>
         <source>Voice and speech analysis for speech therapy</source>
-        <translation type="unfinished"></translation>
+        <translation>언어치료를 위한 음성 및 말 분석</translation>
+    </message>
+    <message>
+        <source>&amp;Mode</source>
+        <translation>모드(&amp;M)</translation>
+    </message>
+    <message>
+        <source>File needs to have at least 0.5 seconds!</source>
+        <translation>파일 길이는 0.5초 이상이어야 합니다!</translation>
+    </message>
+    <message>
+        <source>Error WaveOutPrepareHeader</source>
+        <translation>WaveOutPrepareHeader 오류</translation>
+    </message>
+    <message>
+        <source>Error - Loading Buffer</source>
+        <translation>오류 - 버퍼 불러오기</translation>
+    </message>
+    <message>
+        <source>The sound device reported no error.</source>
+        <translation>사운드 장치가 오류를 보고하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The sound device reported an error.</source>
+        <translation>사운드 장치가 오류를 보고했습니다.</translation>
+    </message>
+    <message>
+        <source>No sound device is available.</source>
+        <translation>사용할 수 있는 사운드 장치가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The sound device is already in use.</source>
+        <translation>사운드 장치를 이미 사용하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>The sound device is not open.</source>
+        <translation>사운드 장치가 열려 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The sound system cannot be reached.</source>
+        <translation>사운드 시스템에 연결할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the sound device.</source>
+        <translation>사운드 장치에 필요한 메모리가 부족합니다.</translation>
+    </message>
+    <message>
+        <source>A sound buffer was handed over without data.</source>
+        <translation>데이터가 없는 사운드 버퍼가 전달되었습니다.</translation>
+    </message>
+    <message>
+        <source>The sound device is busy.</source>
+        <translation>사운드 장치가 다른 작업으로 바쁩니다.</translation>
+    </message>
+    <message>
+        <source>The sound device does not accept this sound format.</source>
+        <translation>사운드 장치가 이 사운드 형식을 지원하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The sound device still holds sound buffers.</source>
+        <translation>사운드 장치에 아직 사운드 버퍼가 남아 있습니다.</translation>
+    </message>
+    <message>
+        <source>A sound buffer was not prepared.</source>
+        <translation>사운드 버퍼가 준비되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The sound device stopped working.</source>
+        <translation>사운드 장치가 작동을 멈췄습니다.</translation>
+    </message>
+    <message>
+        <source>The sound device reported error %d.</source>
+        <translation>사운드 장치가 오류 %d번을 보고했습니다.</translation>
+    </message>
+    <message>
+        <source>Error Freeing Header!</source>
+        <translation>헤더 해제 오류!</translation>
+    </message>
+    <message>
+        <source>It was not possible to open the Playback channel!</source>
+        <translation>재생 채널을 열 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>Error Playing Sound File!</source>
+        <translation>음성 파일 재생 오류!</translation>
+    </message>
+    <message>
+        <source>There is no free memory available!</source>
+        <translation>사용할 수 있는 메모리가 없습니다!</translation>
+    </message>
+    <message>
+        <source>Error Loading Header</source>
+        <translation>헤더 불러오기 오류</translation>
+    </message>
+    <message>
+        <source>It was not possible to start recording</source>
+        <translation>녹음을 시작할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Error writing to file
+Verify if there is free space!</source>
+        <translation>파일 쓰기 오류
+여유 공간이 있는지 확인하십시오!</translation>
+    </message>
+    <message>
+        <source>Error freeing memory!</source>
+        <translation>메모리 해제 오류!</translation>
+    </message>
+    <message>
+        <source>Error stop recording - code: 001</source>
+        <translation>녹음 중지 오류 - 코드: 001</translation>
+    </message>
+    <message>
+        <source>Error stop recording - code: 002</source>
+        <translation>녹음 중지 오류 - 코드: 002</translation>
+    </message>
+    <message>
+        <source>File not found!</source>
+        <translation>파일을 찾을 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>Invalid File!</source>
+        <translation>잘못된 파일입니다!</translation>
+    </message>
+    <message>
+        <source>Error - There is no free memory available!</source>
+        <translation>오류 - 사용할 수 있는 메모리가 없습니다!</translation>
+    </message>
+    <message>
+        <source>The client table %s can´t be written!
+The previous table was kept unchanged.</source>
+        <translation>환자 테이블 %s에 쓸 수 없습니다!
+이전 테이블은 바뀌지 않고 그대로 남아 있습니다.</translation>
+    </message>
+    <message>
+        <source>The client table %s can´t be created!</source>
+        <translation>환자 테이블 %s을(를) 만들 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>The client table is being changed by another user!
+Try again in a moment.</source>
+        <translation>다른 사용자가 환자 테이블을 변경하고 있습니다!
+잠시 후 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>The client search &quot;%s&quot; can´t be understood!
+Only CODIGO = number is accepted.</source>
+        <translation>환자 검색 조건 &quot;%s&quot;을(를) 이해할 수 없습니다!
+CODIGO = 번호 형식만 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>This client is not in the client table!</source>
+        <translation>이 환자는 환자 테이블에 없습니다!</translation>
+    </message>
+    <message>
+        <source>The client code %d can´t be stored in the client table!
+The client was not inserted.</source>
+        <translation>환자 번호 %d은(는) 환자 테이블에 저장할 수 없습니다!
+환자를 등록하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The client code %d was just given to another client!
+The client was not inserted.</source>
+        <translation>환자 번호 %d은(는) 방금 다른 환자에게 부여되었습니다!
+환자를 등록하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Error Saving File!</source>
+        <translation>파일 저장 오류!</translation>
+    </message>
+    <message>
+        <source>Error Opening .ddt file!</source>
+        <translation>.ddt 파일 열기 오류!</translation>
+    </message>
+    <message>
+        <source>Error saving File!</source>
+        <translation>파일 저장 오류!</translation>
+    </message>
+    <message>
+        <source>Error Saving Notes File!</source>
+        <translation>메모 파일 저장 오류!</translation>
+    </message>
+    <message>
+        <source>File rate must be 44100 Hz, 22050 Hz or 11025 Hz!</source>
+        <translation>파일의 표본화 주파수는 44100 Hz, 22050 Hz 또는 11025 Hz여야 합니다!</translation>
+    </message>
+    <message>
+        <source>The file must be 16 Bits</source>
+        <translation>파일은 16비트여야 합니다</translation>
+    </message>
+    <message>
+        <source>The file can´t be opened!</source>
+        <translation>파일을 열 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>File - %s</source>
+        <translation>파일 - %s</translation>
+    </message>
+    <message>
+        <source>Attention, All Information about this File will be deleted!
+Are you Sure you Want to Continue?</source>
+        <translation>주의: 이 파일의 모든 정보가 삭제됩니다!
+계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Error deleting File!</source>
+        <translation>파일 삭제 오류!</translation>
+    </message>
+    <message>
+        <source>This file was send to Backup!
+It´s necessary to attach backup files to access this file!</source>
+        <translation>이 파일은 백업으로 보내졌습니다!
+이 파일을 열려면 백업 파일을 첨부해야 합니다!</translation>
+    </message>
+    <message>
+        <source>Select a file!</source>
+        <translation>파일을 선택하십시오!</translation>
+    </message>
+    <message>
+        <source>Number of files exceeds to 150!
+Insert a new client to continue...</source>
+        <translation>파일 수가 150개를 넘었습니다!
+계속하려면 새 환자를 등록하십시오...</translation>
+    </message>
+    <message>
+        <source>%s  File - %d</source>
+        <translation>%s  파일 - %d</translation>
+    </message>
+    <message>
+        <source>%02d/%02d/%04d File %d</source>
+        <translation>%02d/%02d/%04d 파일 %d</translation>
+    </message>
+    <message>
+        <source>%04d/%02d/%02d File %d</source>
+        <translation>%04d/%02d/%02d 파일 %d</translation>
+    </message>
+    <message>
+        <source>The %s file can´t be recorded!
+Verify if the file is opened!</source>
+        <translation>%s 파일을 저장할 수 없습니다!
+파일이 열려 있는지 확인하십시오!</translation>
+    </message>
+    <message>
+        <source>Attention!
+It was not possible to read additional information about the sound file!</source>
+        <translation>주의!
+음성 파일의 추가 정보를 읽을 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>파일 열기</translation>
+    </message>
+    <message>
+        <source>Attention: This file was recorded in stereo mode. How do you want to open it?</source>
+        <translation>주의: 이 파일은 스테레오로 녹음되었습니다. 어떻게 여시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Stereo to Mono</source>
+        <translation>스테레오를 모노로</translation>
+    </message>
+    <message>
+        <source>Only the Left Channel</source>
+        <translation>왼쪽 채널만</translation>
+    </message>
+    <message>
+        <source>Only the Right Channel</source>
+        <translation>오른쪽 채널만</translation>
+    </message>
+    <message>
+        <source>Mix Channels</source>
+        <translation>두 채널 혼합</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>Invalid Function!</source>
+        <translation>잘못된 기능입니다!</translation>
+    </message>
+    <message>
+        <source>Spectrogram</source>
+        <translation>스펙트로그램</translation>
+    </message>
+    <message>
+        <source>Power Spectrum</source>
+        <translation>파워 스펙트럼</translation>
+    </message>
+    <message>
+        <source>Time: </source>
+        <translation>시간: </translation>
+    </message>
+    <message>
+        <source> Mono</source>
+        <translation> 모노</translation>
+    </message>
+    <message>
+        <source> Stereo</source>
+        <translation> 스테레오</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>파일:</translation>
+    </message>
+    <message>
+        <source>File %d</source>
+        <translation>파일 %d</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>모델</translation>
+    </message>
+    <message>
+        <source>Vol</source>
+        <translation>볼륨</translation>
+    </message>
+    <message>
+        <source>Mic</source>
+        <translation>마이크</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>라인</translation>
+    </message>
+    <message>
+        <source>You need to select an area!</source>
+        <translation>영역을 선택해야 합니다!</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>녹음(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Changes...</source>
+        <translation>변경 내용 저장(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Properties...</source>
+        <translation>속성(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Print Preview</source>
+        <translation>인쇄 미리 보기(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>인쇄(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Export graph as a bmp file...</source>
+        <translation>그래프를 BMP 파일로 내보내기...</translation>
+    </message>
+    <message>
+        <source>Record...</source>
+        <translation>녹음 설정...</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Notes...</source>
+        <translation>메모 편집(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Clean Texts</source>
+        <translation>텍스트 지우기</translation>
+    </message>
+    <message>
+        <source>F0 Setting...</source>
+        <translation>F0 설정...</translation>
+    </message>
+    <message>
+        <source>&amp;Backup...</source>
+        <translation>백업(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>P&amp;rint Setup...</source>
+        <translation>인쇄 설정(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>가져오기...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Compare with File...</source>
+        <translation>파일과 비교...</translation>
+    </message>
+    <message>
+        <source>Open Model...</source>
+        <translation>모델 열기...</translation>
+    </message>
+    <message>
+        <source>Save as a Model...</source>
+        <translation>모델로 저장...</translation>
+    </message>
+    <message>
+        <source>&amp;Undo	Ctrl+Z</source>
+        <translation>실행 취소(&amp;U)	Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>&amp;Select All	Ctrl+A</source>
+        <translation>모두 선택(&amp;S)	Ctrl+A</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>재생(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>정지(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom +</source>
+        <translation>확대(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Zoom -</source>
+        <translation>축소</translation>
+    </message>
+    <message>
+        <source>Cut	Ctrl+X</source>
+        <translation>잘라내기	Ctrl+X</translation>
+    </message>
+    <message>
+        <source>&amp;Copy	Ctrl+C</source>
+        <translation>복사(&amp;C)	Ctrl+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste	Ctrl+V</source>
+        <translation>붙여넣기(&amp;P)	Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Silence</source>
+        <translation>무음 처리</translation>
+    </message>
+    <message>
+        <source>&amp;Spectrogram</source>
+        <translation>스펙트로그램(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Filter design too difficult! </source>
+        <translation>필터 설계가 너무 어렵습니다! </translation>
+    </message>
+    <message>
+        <source>Filter will suffer from limit cycles...
+</source>
+        <translation>필터에 리밋 사이클이 생깁니다...
+</translation>
+    </message>
+    <message>
+        <source>Calculating Formants...</source>
+        <translation>포먼트 계산 중...</translation>
+    </message>
+    <message>
+        <source>Not enough memory to calculate the formants.</source>
+        <translation>포먼트를 계산할 메모리가 부족합니다.</translation>
+    </message>
+    <message>
+        <source>filter: unknown filter type</source>
+        <translation>필터: 알 수 없는 필터 종류</translation>
+    </message>
+    <message>
+        <source>filter: order of filter too large</source>
+        <translation>필터: 필터 차수가 너무 큽니다</translation>
+    </message>
+    <message>
+        <source>filter: filter order must be even</source>
+        <translation>필터: 필터 차수는 짝수여야 합니다</translation>
+    </message>
+    <message>
+        <source>filter: out of memory</source>
+        <translation>필터: 메모리 부족</translation>
+    </message>
+    <message>
+        <source>No simple factors for ratio</source>
+        <translation>비율을 나타낼 간단한 인수가 없습니다</translation>
+    </message>
+    <message>
+        <source>cannot allocate space for interpolated data</source>
+        <translation>보간 데이터를 위한 공간을 할당할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Error Allocating Buffer</source>
+        <translation>버퍼 할당 오류</translation>
     </message>
     <message>
         <source>Update Rate</source>
@@ -531,11 +1022,7 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <translation>채움  </translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>선</translation>
-    </message>
-    <message>
-        <source>Colour of the spectrum's curve</source>
+        <source>Colour of the spectrum&apos;s curve</source>
         <translation>스펙트럼 곡선 색상</translation>
     </message>
     <message>
@@ -589,14 +1076,6 @@ Do You want to Continue?</source>
         <translation>웨이브 사운드</translation>
     </message>
     <message>
-        <source>Mic</source>
-        <translation>마이크</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>라인</translation>
-    </message>
-    <message>
         <source>Record Setting...</source>
         <translation>녹음 설정...</translation>
     </message>
@@ -627,10 +1106,6 @@ Do You want to Continue?</source>
     <message>
         <source>Choose the input the recordings are taken from</source>
         <translation>녹음에 사용할 입력을 선택합니다</translation>
-    </message>
-    <message>
-        <source>Record...</source>
-        <translation>녹음...</translation>
     </message>
 </context>
 </TS>

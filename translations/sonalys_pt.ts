@@ -5,434 +5,925 @@
     <name>Sonalys</name>
     <message>
         <source>About Sonalys</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre o Sonalys</translation>
     </message>
     <message>
         <source>version 4.2</source>
-        <translation type="unfinished"></translation>
+        <translation>versão 4.2</translation>
     </message>
     <message>
         <source>Trial Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versão de avaliação</translation>
     </message>
     <message>
         <source>%.1f MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%.1f MB</translation>
     </message>
     <message>
         <source>Physical memory:</source>
-        <translation type="unfinished"></translation>
+        <translation>Memória física:</translation>
     </message>
     <message>
         <source>Operating system:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema operacional:</translation>
     </message>
     <message>
         <source>Select a Client</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar um paciente</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>Name begins with:</source>
-        <translation type="unfinished"></translation>
+        <translation>O nome começa com:</translation>
     </message>
     <message>
         <source>&amp;Search</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pesquisar</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir</translation>
     </message>
     <message>
         <source>&amp;New Client</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Novo paciente</translation>
     </message>
     <message>
         <source>Other &amp;Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Outros a&amp;rquivos</translation>
     </message>
     <message>
         <source>&amp;Personal Information</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dados pessoais</translation>
     </message>
     <message>
         <source>&amp;Delete Client</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Excluir paciente</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fechar</translation>
     </message>
     <message>
         <source>Type the Client´s name you want to search!</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o nome do paciente que deseja pesquisar!</translation>
     </message>
     <message>
         <source>Client not found!</source>
-        <translation type="unfinished"></translation>
+        <translation>Paciente não encontrado!</translation>
     </message>
     <message>
         <source>You need to select a Item!</source>
-        <translation type="unfinished"></translation>
+        <translation>Você precisa selecionar um item!</translation>
     </message>
     <message>
         <source>Error Reading File</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao ler o arquivo</translation>
     </message>
     <message>
         <source>Attention, All Information about this Client will be deleted!
 Are You sure you want to Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Atenção: todas as informações deste paciente serão excluídas!
+Tem certeza de que deseja continuar?</translation>
     </message>
     <message>
         <source>Client´s folder can´t be deleted!</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível excluir a pasta do paciente!</translation>
     </message>
     <message>
         <source>%s - Files</source>
-        <translation type="unfinished"></translation>
+        <translation>%s - Arquivos</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Excluir</translation>
     </message>
     <message>
         <source>Attention!</source>
-        <translation type="unfinished"></translation>
+        <translation>Atenção!</translation>
     </message>
     <message>
         <source>Sonalys needs a different video resolution !</source>
-        <translation type="unfinished"></translation>
+        <translation>O Sonalys precisa de outra resolução de vídeo!</translation>
     </message>
     <message>
         <source>Resolution : 800 x 600, 1024 x 768 ou 1280 x 800 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolução: 800 x 600, 1024 x 768 ou 1280 x 800 pixels</translation>
     </message>
     <message>
         <source>Colors: High Color (16 bits) or better</source>
-        <translation type="unfinished"></translation>
+        <translation>Cores: High Color (16 bits) ou superior</translation>
     </message>
     <message>
         <source>Do you want to change the configuration now ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Deseja alterar a configuração agora?</translation>
     </message>
     <message>
         <source>&amp;Client</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Paciente</translation>
     </message>
     <message>
         <source>&amp;Files</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arquivos</translation>
     </message>
     <message>
         <source>&amp;Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Configurações</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Idioma</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aj&amp;uda</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir...</translation>
     </message>
     <message>
         <source>&amp;New...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Novo...</translation>
     </message>
     <message>
         <source>P&amp;ersonal Information...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dados pessoais...</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sai&amp;r</translation>
     </message>
     <message>
         <source>Volume...</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume...</translation>
     </message>
     <message>
         <source>&amp;English</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inglês</translation>
     </message>
     <message>
         <source>&amp;Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Coreano</translation>
     </message>
     <message>
         <source>Contents...</source>
-        <translation type="unfinished"></translation>
+        <translation>Conteúdo...</translation>
     </message>
     <message>
         <source>&amp;About Sonalys...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sobre o Sonalys...</translation>
     </message>
     <message>
         <source>Choose a client to work with</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher o paciente com quem trabalhar</translation>
     </message>
     <message>
         <source>Insert a new client</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadastrar um novo paciente</translation>
     </message>
     <message>
         <source>See or change the personal information of the client</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver ou alterar os dados pessoais do paciente</translation>
     </message>
     <message>
         <source>Delete the client and all the client´s recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir o paciente e todas as suas gravações</translation>
     </message>
     <message>
         <source>Quit the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair do programa</translation>
     </message>
     <message>
         <source>Open a recording of the client</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir uma gravação do paciente</translation>
     </message>
     <message>
         <source>Set the recording and playing volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar o volume de gravação e de reprodução</translation>
     </message>
     <message>
         <source>Show the program in English</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar o programa em inglês</translation>
     </message>
     <message>
         <source>Show the program in Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar o programa em coreano</translation>
     </message>
     <message>
         <source>Open the user guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir o guia do usuário</translation>
     </message>
     <message>
         <source>Show the version of the program and of the computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar a versão do programa e os dados do computador</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Sonalys was not ended properly in the last utilisation. Please, reduce the screen update rate before starting recording a new sound file.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Sonalys não foi encerrado corretamente na última utilização. Reduza a taxa de atualização da tela antes de começar a gravar um novo arquivo de som.</translation>
     </message>
     <message>
         <source>Are you sure you want to exit?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tem certeza de que deseja sair?</translation>
     </message>
     <message>
         <source>Volume Control can´t be  can´t be Inicialized!</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível iniciar o controle de volume!</translation>
     </message>
     <message>
         <source>Error Acessing Client´s folder !</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao acessar a pasta do paciente!</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>padrão</translation>
     </message>
     <message>
         <source>Sound File (*.wav)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo de som (*.wav)</translation>
     </message>
     <message>
         <source>The sounds of &quot;Other Files&quot; belong to no client: there is no personal information to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os sons de &quot;Outros arquivos&quot; não pertencem a nenhum paciente: não há dados pessoais para mostrar.</translation>
     </message>
     <message>
         <source>Client</source>
-        <translation type="unfinished"></translation>
+        <translation>Paciente</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserir</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Alterar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Code:</source>
-        <translation type="unfinished"></translation>
+        <translation>Código:</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo:</translation>
     </message>
     <message>
         <source>Man</source>
-        <translation type="unfinished"></translation>
+        <translation>Homem</translation>
     </message>
     <message>
         <source>Woman</source>
-        <translation type="unfinished"></translation>
+        <translation>Mulher</translation>
     </message>
     <message>
         <source>Child</source>
-        <translation type="unfinished"></translation>
+        <translation>Criança</translation>
     </message>
     <message>
         <source>Singer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantor</translation>
     </message>
     <message>
         <source>Date of birth:</source>
-        <translation type="unfinished"></translation>
+        <translation>Data de nascimento:</translation>
     </message>
     <message>
         <source>(month / day / year)</source>
-        <translation type="unfinished"></translation>
+        <translation>(mês / dia / ano)</translation>
     </message>
     <message>
         <source>(day / month / year)</source>
-        <translation type="unfinished"></translation>
+        <translation>(dia / mês / ano)</translation>
     </message>
     <message>
         <source>(year / month / day)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ano / mês / dia)</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Endereço:</translation>
     </message>
     <message>
         <source>City:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cidade:</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado:</translation>
     </message>
     <message>
         <source>Postal code:</source>
-        <translation type="unfinished"></translation>
+        <translation>CEP:</translation>
     </message>
     <message>
         <source>Home phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefone residencial:</translation>
     </message>
     <message>
         <source>Work phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefone comercial:</translation>
     </message>
     <message>
         <source>Observations:</source>
-        <translation type="unfinished"></translation>
+        <translation>Observações:</translation>
     </message>
     <message>
         <source>Invalid Day !</source>
-        <translation type="unfinished"></translation>
+        <translation>Dia inválido!</translation>
     </message>
     <message>
         <source>Invalid Month !</source>
-        <translation type="unfinished"></translation>
+        <translation>Mês inválido!</translation>
     </message>
     <message>
         <source>Invalid Year 
 Range: 1890 to 2050</source>
-        <translation type="unfinished"></translation>
+        <translation>Ano inválido 
+Intervalo: de 1890 a 2050</translation>
     </message>
     <message>
         <source>Invalid Year (it must have 4 digits)
 Sample.: 1974</source>
-        <translation type="unfinished"></translation>
+        <translation>Ano inválido (deve ter 4 dígitos)
+Exemplo: 1974</translation>
     </message>
     <message>
         <source>You need to type the client´s name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Você precisa digitar o nome do paciente!</translation>
     </message>
     <message>
         <source>The Client is Man/Woman, Singer or Child?</source>
-        <translation type="unfinished"></translation>
+        <translation>O paciente é homem/mulher, cantor ou criança?</translation>
     </message>
     <message>
         <source>The Client´s Folder already exist</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta do paciente já existe</translation>
     </message>
     <message>
         <source>The client´s folder %s can´t be created!
 The client´s recordings can´t be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível criar a pasta do paciente %s!
+As gravações do paciente não poderão ser guardadas.</translation>
     </message>
     <message>
         <source>This client is no longer in the client table (another user may have deleted it).
 Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este paciente não está mais na tabela de pacientes (outro usuário pode tê-lo excluído).
+Nada foi alterado.</translation>
     </message>
     <message>
         <source>Wait, Please...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aguarde, por favor...</translation>
     </message>
     <message>
         <source>Undefined Type!</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo não definido!</translation>
     </message>
     <message>
         <source>No display settings program was found on this computer.
 Please change the screen resolution in the settings of your desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum programa de configuração de vídeo foi encontrado neste computador.
+Altere a resolução da tela nas configurações da sua área de trabalho.</translation>
     </message>
     <message>
         <source>Sonalys Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuda do Sonalys</translation>
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voltar</translation>
     </message>
     <message>
         <source>&amp;Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avançar</translation>
     </message>
     <message>
         <source>&amp;Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conteúdo</translation>
     </message>
     <message>
         <source>The screen resolution is higher than the options available!
 Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!</source>
-        <translation type="unfinished"></translation>
+        <translation>A resolução da tela é maior que as opções disponíveis!
+Selecione a opção 800 x 600, 1024 x 768 ou 1280 x 800 na próxima tela!</translation>
     </message>
     <message>
         <source>Error Loading Video Setting Program!</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao carregar o programa de configuração de vídeo!</translation>
     </message>
     <message>
         <source>It´s not possible to set the resolution!</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível definir a resolução!</translation>
     </message>
     <message>
         <source>Voice and speech analysis for speech therapy</source>
-        <translation type="unfinished"></translation>
+        <translation>Análise de voz e fala para fonoaudiologia</translation>
+    </message>
+    <message>
+        <source>&amp;Mode</source>
+        <translation>&amp;Modo</translation>
+    </message>
+    <message>
+        <source>File needs to have at least 0.5 seconds!</source>
+        <translation>O arquivo precisa ter pelo menos 0,5 segundo!</translation>
+    </message>
+    <message>
+        <source>Error WaveOutPrepareHeader</source>
+        <translation>Erro em WaveOutPrepareHeader</translation>
+    </message>
+    <message>
+        <source>Error - Loading Buffer</source>
+        <translation>Erro - Carregamento do buffer</translation>
+    </message>
+    <message>
+        <source>The sound device reported no error.</source>
+        <translation>O dispositivo de som não relatou nenhum erro.</translation>
+    </message>
+    <message>
+        <source>The sound device reported an error.</source>
+        <translation>O dispositivo de som relatou um erro.</translation>
+    </message>
+    <message>
+        <source>No sound device is available.</source>
+        <translation>Nenhum dispositivo de som está disponível.</translation>
+    </message>
+    <message>
+        <source>The sound device is already in use.</source>
+        <translation>O dispositivo de som já está em uso.</translation>
+    </message>
+    <message>
+        <source>The sound device is not open.</source>
+        <translation>O dispositivo de som não está aberto.</translation>
+    </message>
+    <message>
+        <source>The sound system cannot be reached.</source>
+        <translation>Não é possível acessar o sistema de som.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the sound device.</source>
+        <translation>Não há memória suficiente para o dispositivo de som.</translation>
+    </message>
+    <message>
+        <source>A sound buffer was handed over without data.</source>
+        <translation>Um buffer de som foi entregue sem dados.</translation>
+    </message>
+    <message>
+        <source>The sound device is busy.</source>
+        <translation>O dispositivo de som está ocupado.</translation>
+    </message>
+    <message>
+        <source>The sound device does not accept this sound format.</source>
+        <translation>O dispositivo de som não aceita este formato de som.</translation>
+    </message>
+    <message>
+        <source>The sound device still holds sound buffers.</source>
+        <translation>O dispositivo de som ainda retém buffers de som.</translation>
+    </message>
+    <message>
+        <source>A sound buffer was not prepared.</source>
+        <translation>Um buffer de som não foi preparado.</translation>
+    </message>
+    <message>
+        <source>The sound device stopped working.</source>
+        <translation>O dispositivo de som parou de funcionar.</translation>
+    </message>
+    <message>
+        <source>The sound device reported error %d.</source>
+        <translation>O dispositivo de som relatou o erro %d.</translation>
+    </message>
+    <message>
+        <source>Error Freeing Header!</source>
+        <translation>Erro ao liberar o cabeçalho!</translation>
+    </message>
+    <message>
+        <source>It was not possible to open the Playback channel!</source>
+        <translation>Não foi possível abrir o canal de reprodução!</translation>
+    </message>
+    <message>
+        <source>Error Playing Sound File!</source>
+        <translation>Erro ao reproduzir o arquivo de som!</translation>
+    </message>
+    <message>
+        <source>There is no free memory available!</source>
+        <translation>Não há memória livre disponível!</translation>
+    </message>
+    <message>
+        <source>Error Loading Header</source>
+        <translation>Erro ao carregar o cabeçalho</translation>
+    </message>
+    <message>
+        <source>It was not possible to start recording</source>
+        <translation>Não foi possível iniciar a gravação</translation>
+    </message>
+    <message>
+        <source>Error writing to file
+Verify if there is free space!</source>
+        <translation>Erro ao gravar no arquivo
+Verifique se há espaço livre!</translation>
+    </message>
+    <message>
+        <source>Error freeing memory!</source>
+        <translation>Erro ao liberar a memória!</translation>
+    </message>
+    <message>
+        <source>Error stop recording - code: 001</source>
+        <translation>Erro ao parar a gravação - código: 001</translation>
+    </message>
+    <message>
+        <source>Error stop recording - code: 002</source>
+        <translation>Erro ao parar a gravação - código: 002</translation>
+    </message>
+    <message>
+        <source>File not found!</source>
+        <translation>Arquivo não encontrado!</translation>
+    </message>
+    <message>
+        <source>Invalid File!</source>
+        <translation>Arquivo inválido!</translation>
+    </message>
+    <message>
+        <source>Error - There is no free memory available!</source>
+        <translation>Erro - Não há memória livre disponível!</translation>
+    </message>
+    <message>
+        <source>The client table %s can´t be written!
+The previous table was kept unchanged.</source>
+        <translation>Não é possível gravar a tabela de pacientes %s!
+A tabela anterior foi mantida sem alterações.</translation>
+    </message>
+    <message>
+        <source>The client table %s can´t be created!</source>
+        <translation>Não é possível criar a tabela de pacientes %s!</translation>
+    </message>
+    <message>
+        <source>The client table is being changed by another user!
+Try again in a moment.</source>
+        <translation>A tabela de pacientes está sendo alterada por outro usuário!
+Tente novamente em instantes.</translation>
+    </message>
+    <message>
+        <source>The client search &quot;%s&quot; can´t be understood!
+Only CODIGO = number is accepted.</source>
+        <translation>A pesquisa de pacientes &quot;%s&quot; não pode ser entendida!
+Só é aceito CODIGO = número.</translation>
+    </message>
+    <message>
+        <source>This client is not in the client table!</source>
+        <translation>Este paciente não está na tabela de pacientes!</translation>
+    </message>
+    <message>
+        <source>The client code %d can´t be stored in the client table!
+The client was not inserted.</source>
+        <translation>O código de paciente %d não pode ser armazenado na tabela de pacientes!
+O paciente não foi inserido.</translation>
+    </message>
+    <message>
+        <source>The client code %d was just given to another client!
+The client was not inserted.</source>
+        <translation>O código de paciente %d acabou de ser atribuído a outro paciente!
+O paciente não foi inserido.</translation>
+    </message>
+    <message>
+        <source>Error Saving File!</source>
+        <translation>Erro ao salvar o arquivo!</translation>
+    </message>
+    <message>
+        <source>Error Opening .ddt file!</source>
+        <translation>Erro ao abrir o arquivo .ddt!</translation>
+    </message>
+    <message>
+        <source>Error saving File!</source>
+        <translation>Erro ao salvar o arquivo!</translation>
+    </message>
+    <message>
+        <source>Error Saving Notes File!</source>
+        <translation>Erro ao salvar o arquivo de anotações!</translation>
+    </message>
+    <message>
+        <source>File rate must be 44100 Hz, 22050 Hz or 11025 Hz!</source>
+        <translation>A taxa de amostragem do arquivo deve ser 44100 Hz, 22050 Hz ou 11025 Hz!</translation>
+    </message>
+    <message>
+        <source>The file must be 16 Bits</source>
+        <translation>O arquivo deve ser de 16 bits</translation>
+    </message>
+    <message>
+        <source>The file can´t be opened!</source>
+        <translation>Não é possível abrir o arquivo!</translation>
+    </message>
+    <message>
+        <source>File - %s</source>
+        <translation>Arquivo - %s</translation>
+    </message>
+    <message>
+        <source>Attention, All Information about this File will be deleted!
+Are you Sure you Want to Continue?</source>
+        <translation>Atenção: todas as informações deste arquivo serão excluídas!
+Tem certeza de que deseja continuar?</translation>
+    </message>
+    <message>
+        <source>Error deleting File!</source>
+        <translation>Erro ao excluir o arquivo!</translation>
+    </message>
+    <message>
+        <source>This file was send to Backup!
+It´s necessary to attach backup files to access this file!</source>
+        <translation>Este arquivo foi enviado para o backup!
+É necessário anexar os arquivos de backup para acessar este arquivo!</translation>
+    </message>
+    <message>
+        <source>Select a file!</source>
+        <translation>Selecione um arquivo!</translation>
+    </message>
+    <message>
+        <source>Number of files exceeds to 150!
+Insert a new client to continue...</source>
+        <translation>O número de arquivos excede 150!
+Insira um novo paciente para continuar...</translation>
+    </message>
+    <message>
+        <source>%s  File - %d</source>
+        <translation>%s  Arquivo - %d</translation>
+    </message>
+    <message>
+        <source>%02d/%02d/%04d File %d</source>
+        <translation>%02d/%02d/%04d Arquivo %d</translation>
+    </message>
+    <message>
+        <source>%04d/%02d/%02d File %d</source>
+        <translation>%04d/%02d/%02d Arquivo %d</translation>
+    </message>
+    <message>
+        <source>The %s file can´t be recorded!
+Verify if the file is opened!</source>
+        <translation>Não é possível gravar o arquivo %s!
+Verifique se o arquivo está aberto!</translation>
+    </message>
+    <message>
+        <source>Attention!
+It was not possible to read additional information about the sound file!</source>
+        <translation>Atenção!
+Não foi possível ler as informações adicionais do arquivo de som!</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Abrir arquivo</translation>
+    </message>
+    <message>
+        <source>Attention: This file was recorded in stereo mode. How do you want to open it?</source>
+        <translation>Atenção: este arquivo foi gravado em modo estéreo. Como deseja abri-lo?</translation>
+    </message>
+    <message>
+        <source>Stereo to Mono</source>
+        <translation>Estéreo para mono</translation>
+    </message>
+    <message>
+        <source>Only the Left Channel</source>
+        <translation>Somente o canal esquerdo</translation>
+    </message>
+    <message>
+        <source>Only the Right Channel</source>
+        <translation>Somente o canal direito</translation>
+    </message>
+    <message>
+        <source>Mix Channels</source>
+        <translation>Mixar os canais</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Invalid Function!</source>
+        <translation>Função inválida!</translation>
+    </message>
+    <message>
+        <source>Spectrogram</source>
+        <translation>Espectrograma</translation>
+    </message>
+    <message>
+        <source>Power Spectrum</source>
+        <translation>Espectro de potência</translation>
+    </message>
+    <message>
+        <source>Time: </source>
+        <translation>Tempo: </translation>
+    </message>
+    <message>
+        <source> Mono</source>
+        <translation> Mono</translation>
+    </message>
+    <message>
+        <source> Stereo</source>
+        <translation> Estéreo</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Arquivo:</translation>
+    </message>
+    <message>
+        <source>File %d</source>
+        <translation>Arquivo %d</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Vol</source>
+        <translation>Vol</translation>
+    </message>
+    <message>
+        <source>Mic</source>
+        <translation>Mic</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linha</translation>
+    </message>
+    <message>
+        <source>You need to select an area!</source>
+        <translation>Você precisa selecionar uma área!</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Gravar</translation>
+    </message>
+    <message>
+        <source>&amp;Save Changes...</source>
+        <translation>&amp;Salvar alterações...</translation>
+    </message>
+    <message>
+        <source>&amp;Properties...</source>
+        <translation>P&amp;ropriedades...</translation>
+    </message>
+    <message>
+        <source>&amp;Print Preview</source>
+        <translation>&amp;Visualizar impressão</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimir...</translation>
+    </message>
+    <message>
+        <source>Export graph as a bmp file...</source>
+        <translation>Exportar o gráfico como arquivo BMP...</translation>
+    </message>
+    <message>
+        <source>Record...</source>
+        <translation>Gravação...</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Notes...</source>
+        <translation>&amp;Editar anotações...</translation>
+    </message>
+    <message>
+        <source>Clean Texts</source>
+        <translation>Limpar textos</translation>
+    </message>
+    <message>
+        <source>F0 Setting...</source>
+        <translation>Configuração de F0...</translation>
+    </message>
+    <message>
+        <source>&amp;Backup...</source>
+        <translation>&amp;Backup...</translation>
+    </message>
+    <message>
+        <source>P&amp;rint Setup...</source>
+        <translation>Con&amp;figurar impressão...</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importar...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Compare with File...</source>
+        <translation>Comparar com um arquivo...</translation>
+    </message>
+    <message>
+        <source>Open Model...</source>
+        <translation>Abrir modelo...</translation>
+    </message>
+    <message>
+        <source>Save as a Model...</source>
+        <translation>Salvar como modelo...</translation>
+    </message>
+    <message>
+        <source>&amp;Undo	Ctrl+Z</source>
+        <translation>&amp;Desfazer	Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>&amp;Select All	Ctrl+A</source>
+        <translation>Selecionar &amp;tudo	Ctrl+A</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Reproduzir</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Parar</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom +</source>
+        <translation>&amp;Zoom +</translation>
+    </message>
+    <message>
+        <source>Zoom -</source>
+        <translation>Zoom -</translation>
+    </message>
+    <message>
+        <source>Cut	Ctrl+X</source>
+        <translation>Recortar	Ctrl+X</translation>
+    </message>
+    <message>
+        <source>&amp;Copy	Ctrl+C</source>
+        <translation>&amp;Copiar	Ctrl+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste	Ctrl+V</source>
+        <translation>Co&amp;lar	Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Silence</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>&amp;Spectrogram</source>
+        <translation>&amp;Espectrograma</translation>
+    </message>
+    <message>
+        <source>Filter design too difficult! </source>
+        <translation>Projeto de filtro difícil demais! </translation>
+    </message>
+    <message>
+        <source>Filter will suffer from limit cycles...
+</source>
+        <translation>O filtro sofrerá ciclos-limite...
+</translation>
+    </message>
+    <message>
+        <source>Calculating Formants...</source>
+        <translation>Calculando os formantes...</translation>
+    </message>
+    <message>
+        <source>Not enough memory to calculate the formants.</source>
+        <translation>Não há memória suficiente para calcular os formantes.</translation>
+    </message>
+    <message>
+        <source>filter: unknown filter type</source>
+        <translation>filtro: tipo de filtro desconhecido</translation>
+    </message>
+    <message>
+        <source>filter: order of filter too large</source>
+        <translation>filtro: ordem do filtro grande demais</translation>
+    </message>
+    <message>
+        <source>filter: filter order must be even</source>
+        <translation>filtro: a ordem do filtro deve ser par</translation>
+    </message>
+    <message>
+        <source>filter: out of memory</source>
+        <translation>filtro: memória insuficiente</translation>
+    </message>
+    <message>
+        <source>No simple factors for ratio</source>
+        <translation>Não há fatores simples para a razão</translation>
+    </message>
+    <message>
+        <source>cannot allocate space for interpolated data</source>
+        <translation>não é possível alocar espaço para os dados interpolados</translation>
+    </message>
+    <message>
+        <source>Error Allocating Buffer</source>
+        <translation>Erro ao alocar o buffer</translation>
     </message>
     <message>
         <source>Update Rate</source>
@@ -531,11 +1022,7 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <translation>Sólido  </translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>Linha</translation>
-    </message>
-    <message>
-        <source>Colour of the spectrum's curve</source>
+        <source>Colour of the spectrum&apos;s curve</source>
         <translation>Cor da curva do espectro</translation>
     </message>
     <message>
@@ -589,14 +1076,6 @@ Deseja continuar?</translation>
         <translation>Som Wave</translation>
     </message>
     <message>
-        <source>Mic</source>
-        <translation>Mic</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linha</translation>
-    </message>
-    <message>
         <source>Record Setting...</source>
         <translation>Configuração de gravação...</translation>
     </message>
@@ -627,10 +1106,6 @@ Deseja continuar?</translation>
     <message>
         <source>Choose the input the recordings are taken from</source>
         <translation>Escolher a entrada da qual as gravações são feitas</translation>
-    </message>
-    <message>
-        <source>Record...</source>
-        <translation>Gravação...</translation>
     </message>
 </context>
 </TS>

@@ -5,8 +5,10 @@
 #include <string_view>
 #include <vector>
 
-inline constexpr std::string_view kFilterDesignTooDifficult = "Filter design too difficult! ";
-inline constexpr std::string_view kLimitCycles = "Filter will suffer from limit cycles...\n";
+#include "store/DeclaredText.h"
+
+inline constexpr std::string_view kFilterDesignTooDifficult = SONALYS_TEXT("Sonalys", "Filter design too difficult! ");
+inline constexpr std::string_view kLimitCycles = SONALYS_TEXT("Sonalys", "Filter will suffer from limit cycles...\n");
 
 // Figures every stage filter meets.
 inline constexpr double kPassbandEdgeFraction = 0.9;  // passband edge as a fraction of the stop edge

@@ -12,12 +12,14 @@
 #include "analysis/FormantPoles.h"
 #include "analysis/Lpc.h"
 #include "analysis/PolyRoots.h"
+#include "store/DeclaredText.h"
 #include "store/Prompt.h"
 
 // Shown in the main frame's message pane while the formants are computed.
-inline constexpr std::string_view kCalculatingFormants = "Calculating Formants...";
+inline constexpr std::string_view kCalculatingFormants = SONALYS_TEXT("Sonalys", "Calculating Formants...");
 // Shown when the frames of a recording do not fit in memory; the track is then left invalid.
-inline constexpr std::string_view kFormantsOutOfMemory = "Not enough memory to calculate the formants.";
+inline constexpr std::string_view kFormantsOutOfMemory =
+    SONALYS_TEXT("Sonalys", "Not enough memory to calculate the formants.");
 
 struct FormantRecord {
     float f1 = 0.0f;  // Hz

@@ -7,12 +7,13 @@
 #include <string_view>
 #include <vector>
 
+#include "store/DeclaredText.h"
 #include "store/Prompt.h"
 
-inline constexpr std::string_view kFilterUnknownType = "filter: unknown filter type";
-inline constexpr std::string_view kFilterOrderTooLarge = "filter: order of filter too large";
-inline constexpr std::string_view kFilterOrderNotEven = "filter: filter order must be even";
-inline constexpr std::string_view kFilterOutOfMemory = "filter: out of memory";
+inline constexpr std::string_view kFilterUnknownType = SONALYS_TEXT("Sonalys", "filter: unknown filter type");
+inline constexpr std::string_view kFilterOrderTooLarge = SONALYS_TEXT("Sonalys", "filter: order of filter too large");
+inline constexpr std::string_view kFilterOrderNotEven = SONALYS_TEXT("Sonalys", "filter: filter order must be even");
+inline constexpr std::string_view kFilterOutOfMemory = SONALYS_TEXT("Sonalys", "filter: out of memory");
 
 enum FilterType { kLowPass = 1, kHighPass = 2, kBandPass = 3, kBandStop = 4 };
 

@@ -10,12 +10,14 @@
 #include <vector>
 
 #include "ZeroPhaseResampler.h"
+#include "store/DeclaredText.h"
 
 struct Prompt;
 
-inline constexpr std::string_view kNoSimpleFactors = "No simple factors for ratio";
-inline constexpr std::string_view kCannotAllocateInterpolated = "cannot allocate space for interpolated data";
-inline constexpr std::string_view kErrorAllocatingBuffer = "Error Allocating Buffer";
+inline constexpr std::string_view kNoSimpleFactors = SONALYS_TEXT("Sonalys", "No simple factors for ratio");
+inline constexpr std::string_view kCannotAllocateInterpolated =
+    SONALYS_TEXT("Sonalys", "cannot allocate space for interpolated data");
+inline constexpr std::string_view kErrorAllocatingBuffer = SONALYS_TEXT("Sonalys", "Error Allocating Buffer");
 
 inline constexpr int kLargestRatioDenominator = 999;
 inline constexpr double kRatioTolerance = 1e-06;

@@ -334,7 +334,7 @@ bool CPaciente::save() {
         if (std::filesystem::is_directory(folder, error)) {
             m_prompt.showOk(kFolderAlreadyExists);  // an old folder of this code is used again
         } else if (!std::filesystem::create_directory(folder, error) || error) {
-            m_prompt.showOk(formatText(std::string(kFolderNotCreated).c_str(), folder.string().c_str()));
+            m_prompt.showOk(formatText(m_prompt.inLanguage(kFolderNotCreated).c_str(), folder.string().c_str()));
         }
         m_currentClient = m_record;
         return true;

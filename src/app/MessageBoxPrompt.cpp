@@ -25,3 +25,5 @@ bool MessageBoxPrompt::askYesNo(std::string_view text) {
     return showBox(text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
            QMessageBox::Yes;
 }
+
+std::string MessageBoxPrompt::inLanguage(std::string_view english) const { return uiText(english).toStdString(); }

@@ -8,4 +8,5 @@ class MessageBoxPrompt : public Prompt {
 public:
     void showOk(std::string_view text) override;
     bool askYesNo(std::string_view text) override;
+    std::string inLanguage(std::string_view english) const override;
 };

@@ -12,14 +12,18 @@
 #include <string_view>
 #include <vector>
 
+#include <QtGlobal>
+
 #include "audio/WaveDevice.h"
 
 class WavePlayer;
 struct Prompt;
 
-inline constexpr std::string_view kFileTooShort = "File needs to have at least 0.5 seconds!";
-inline constexpr std::string_view kErrorWaveOutPrepareHeader = "Error WaveOutPrepareHeader";
-inline constexpr std::string_view kErrorLoadingBuffer = "Error - Loading Buffer";
+inline constexpr std::string_view kFileTooShort =
+    QT_TRANSLATE_NOOP("Sonalys", "File needs to have at least 0.5 seconds!");
+inline constexpr std::string_view kErrorWaveOutPrepareHeader =
+    QT_TRANSLATE_NOOP("Sonalys", "Error WaveOutPrepareHeader");
+inline constexpr std::string_view kErrorLoadingBuffer = QT_TRANSLATE_NOOP("Sonalys", "Error - Loading Buffer");
 
 inline constexpr int kFirstHeaderSamples = 1500;
 inline constexpr int kMaxQueuedHeaders = 100;  // bounds the device's memory on long files; a zoomed play ignores it

@@ -1,22 +1,36 @@
 #include "audio/WaveDevice.h"
 
+#include <QtGlobal>
+
+#include "store/Prompt.h"
 #include "store/TextFormat.h"
 
-std::string waveErrorText(int code) {
+namespace {
+
+// The sentence for `code`, "%d" standing for a code the sound system does not name.
+const char* waveErrorTemplate(int code) {
     switch (code) {
-    case MMSYSERR_NOERROR: return "The sound device reported no error.";
-    case MMSYSERR_ERROR: return "The sound device reported an error.";
-    case MMSYSERR_BADDEVICEID: return "No sound device is available.";
-    case MMSYSERR_ALLOCATED: return "The sound device is already in use.";
-    case MMSYSERR_INVALHANDLE: return "The sound device is not open.";
-    case MMSYSERR_NODRIVER: return "The sound system cannot be reached.";
-    case MMSYSERR_NOMEM: return "There is not enough memory for the sound device.";
-    case MMSYSERR_INVALPARAM: return "A sound buffer was handed over without data.";
-    case MMSYSERR_HANDLEBUSY: return "The sound device is busy.";
-    case WAVERR_BADFORMAT: return "The sound device does not accept this sound format.";
-    case WAVERR_STILLPLAYING: return "The sound device still holds sound buffers.";
-    case WAVERR_UNPREPARED: return "A sound buffer was not prepared.";
-    case WAVERR_DEVICELOST: return "The sound device stopped working.";
-    default: return formatText("The sound device reported error %d.", code);
+    case MMSYSERR_NOERROR: return QT_TRANSLATE_NOOP("Sonalys", "The sound device reported no error.");
+    case MMSYSERR_ERROR: return QT_TRANSLATE_NOOP("Sonalys", "The sound device reported an error.");
+    case MMSYSERR_BADDEVICEID: return QT_TRANSLATE_NOOP("Sonalys", "No sound device is available.");
+    case MMSYSERR_ALLOCATED: return QT_TRANSLATE_NOOP("Sonalys", "The sound device is already in use.");
+    case MMSYSERR_INVALHANDLE: return QT_TRANSLATE_NOOP("Sonalys", "The sound device is not open.");
+    case MMSYSERR_NODRIVER: return QT_TRANSLATE_NOOP("Sonalys", "The sound system cannot be reached.");
+    case MMSYSERR_NOMEM: return QT_TRANSLATE_NOOP("Sonalys", "There is not enough memory for the sound device.");
+    case MMSYSERR_INVALPARAM: return QT_TRANSLATE_NOOP("Sonalys", "A sound buffer was handed over without data.");
+    case MMSYSERR_HANDLEBUSY: return QT_TRANSLATE_NOOP("Sonalys", "The sound device is busy.");
+    case WAVERR_BADFORMAT: return QT_TRANSLATE_NOOP("Sonalys", "The sound device does not accept this sound format.");
+    case WAVERR_STILLPLAYING: return QT_TRANSLATE_NOOP("Sonalys", "The sound device still holds sound buffers.");
+    case WAVERR_UNPREPARED: return QT_TRANSLATE_NOOP("Sonalys", "A sound buffer was not prepared.");
+    case WAVERR_DEVICELOST: return QT_TRANSLATE_NOOP("Sonalys", "The sound device stopped working.");
+    default: return QT_TRANSLATE_NOOP("Sonalys", "The sound device reported error %d.");
     }
+}
+
+}  // namespace
+
+std::string waveErrorText(int code) { return formatText(waveErrorTemplate(code), code); }
+
+std::string waveErrorText(int code, const Prompt& prompt) {
+    return formatText(prompt.inLanguage(waveErrorTemplate(code)).c_str(), code);
 }

@@ -9,6 +9,9 @@
 #include <string>
 #include <string_view>
 
+#include <QtGlobal>
+
+struct Prompt;
 struct WaveFormat;
 
 // One buffer lent to a device. The engine owns the header and the bytes; the device holds the pointer from the moment
@@ -41,11 +44,12 @@ inline constexpr int WAVERR_STILLPLAYING = 33;  // buffers are still queued
 inline constexpr int WAVERR_UNPREPARED = 34;    // the header was not prepared
 inline constexpr int WAVERR_DEVICELOST = 35;    // the device stopped working while open
 
-// The sound system's own sentence for a result code, as shown to the user.
+// The sound system's own sentence for a result code, in English, or in the language of `prompt`'s screen.
 std::string waveErrorText(int code);
+std::string waveErrorText(int code, const Prompt& prompt);
 
 // Shown by either engine when a device refuses to take back a header it has handed back.
-inline constexpr std::string_view kErrorFreeingHeader = "Error Freeing Header!";
+inline constexpr std::string_view kErrorFreeingHeader = QT_TRANSLATE_NOOP("Sonalys", "Error Freeing Header!");
 
 // Who hears what a capture device reports. Every call arrives on the user-interface thread, each from its own turn of
 // the event loop, in the order the device produced them.

@@ -100,7 +100,7 @@ int WavePlayer::PlayOnce(const std::uint8_t* data, std::uint32_t bytes) {
     slot->lpData = const_cast<std::uint8_t*>(data);  // only read: playback never writes into the samples
     slot->dwBufferLength = bytes;
     if (const int prepared = m_device.prepareHeader(*slot); prepared != MMSYSERR_NOERROR) {
-        m_prompt.showOk(waveErrorText(prepared));
+        m_prompt.showOk(waveErrorText(prepared, m_prompt));
         m_stopQueue = true;
         m_device.pause();
         Close();
@@ -129,6 +129,6 @@ void WavePlayer::OnClosed() {
 
 void WavePlayer::OnFailed(int code) {
     if (!m_deviceOpen) return;
-    m_prompt.showOk(waveErrorText(code));
+    m_prompt.showOk(waveErrorText(code, m_prompt));
     HardReset();
 }

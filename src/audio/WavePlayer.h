@@ -9,14 +9,17 @@
 #include <memory>
 #include <string_view>
 
+#include <QtGlobal>
+
 #include "audio/WaveDevice.h"
 
 class QEventLoop;
 struct Prompt;
 struct WaveFormat;
 
-inline constexpr std::string_view kCannotOpenPlayback = "It was not possible to open the Playback channel!";
-inline constexpr std::string_view kErrorPlayingSoundFile = "Error Playing Sound File!";
+inline constexpr std::string_view kCannotOpenPlayback =
+    QT_TRANSLATE_NOOP("Sonalys", "It was not possible to open the Playback channel!");
+inline constexpr std::string_view kErrorPlayingSoundFile = QT_TRANSLATE_NOOP("Sonalys", "Error Playing Sound File!");
 
 class WavePlayer {
 public:

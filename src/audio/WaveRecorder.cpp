@@ -126,7 +126,7 @@ int WaveRecorder::Start(WaveInEvents* window) {
         m_stopRequested = true;
         m_temporaryFile.close();
         m_scratchClaim.release();
-        m_prompt.showOk(waveErrorText(opened));
+        m_prompt.showOk(waveErrorText(opened, m_prompt));
         return 0;
     }
     m_deviceOpen = true;
@@ -153,13 +153,13 @@ int WaveRecorder::Start(WaveInEvents* window) {
 bool WaveRecorder::fillSlots() {
     for (int i = 0; i < kSlotCount; ++i) {
         if (AddBuffer() >= 0) continue;
-        if (m_lastResult != MMSYSERR_NOERROR) m_prompt.showOk(waveErrorText(m_lastResult));
+        if (m_lastResult != MMSYSERR_NOERROR) m_prompt.showOk(waveErrorText(m_lastResult, m_prompt));
         return false;
     }
     for (Slot& slot : m_slots) {
         m_lastResult = m_device.addBuffer(*slot.header);
         if (m_lastResult == MMSYSERR_NOERROR) continue;
-        m_prompt.showOk(waveErrorText(m_lastResult));
+        m_prompt.showOk(waveErrorText(m_lastResult, m_prompt));
         return false;
     }
     return true;
@@ -316,7 +316,7 @@ void WaveRecorder::OnClosed() {
 
 void WaveRecorder::OnFailed(int code) {
     if (!m_deviceOpen || m_stopRequested) return;
-    m_prompt.showOk(waveErrorText(code));
+    m_prompt.showOk(waveErrorText(code, m_prompt));
     Stop();
 }
 

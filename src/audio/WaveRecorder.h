@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include <QtGlobal>
+
 #include "audio/ScratchFileClaim.h"
 #include "audio/TempFile.h"
 #include "audio/WaveDevice.h"
@@ -25,13 +27,18 @@ struct Prompt;
 inline constexpr std::string_view kRecordOpenFailed =
     "Erro Gravação\nwfe.cbSize = %d\nwfe.nAvgBytesPerSec = %d\nwfe.nBlockAlign %d\nwfe.nChannels %d\n"
     "wfe.nSamplesPerSec %d\nwfe.wBitsPerSample %d\nwfe.wFormatTag %d";
-inline constexpr std::string_view kCaptureNoFreeMemory = "There is no free memory available!";
-inline constexpr std::string_view kErrorLoadingHeader = "Error Loading Header";
-inline constexpr std::string_view kCannotStartRecording = "It was not possible to start recording";
-inline constexpr std::string_view kErrorWritingFile = "Error writing to file\nVerify if there is free space!";
-inline constexpr std::string_view kErrorFreeingMemory = "Error freeing memory!";
-inline constexpr std::string_view kStopRecordingError1 = "Error stop recording - code: 001";
-inline constexpr std::string_view kStopRecordingError2 = "Error stop recording - code: 002";
+inline constexpr std::string_view kCaptureNoFreeMemory =
+    QT_TRANSLATE_NOOP("Sonalys", "There is no free memory available!");
+inline constexpr std::string_view kErrorLoadingHeader = QT_TRANSLATE_NOOP("Sonalys", "Error Loading Header");
+inline constexpr std::string_view kCannotStartRecording =
+    QT_TRANSLATE_NOOP("Sonalys", "It was not possible to start recording");
+inline constexpr std::string_view kErrorWritingFile =
+    QT_TRANSLATE_NOOP("Sonalys", "Error writing to file\nVerify if there is free space!");
+inline constexpr std::string_view kErrorFreeingMemory = QT_TRANSLATE_NOOP("Sonalys", "Error freeing memory!");
+inline constexpr std::string_view kStopRecordingError1 =
+    QT_TRANSLATE_NOOP("Sonalys", "Error stop recording - code: 001");
+inline constexpr std::string_view kStopRecordingError2 =
+    QT_TRANSLATE_NOOP("Sonalys", "Error stop recording - code: 002");
 
 // The record-format index the program starts with: 11025 Hz, 16 bits, one channel.
 inline constexpr int kDefaultRecordFormat = 3;

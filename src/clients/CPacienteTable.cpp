@@ -151,7 +151,7 @@ bool CPacienteTable::changeTable(Change&& change) {
         return false;
     }
     if (lock.status() == TableLockStatus::CannotOpen) {
-        m_prompt.showOk(formatText(kTableNotWritten.data(), TablePath().string().c_str()));
+        m_prompt.showOk(formatText(m_prompt.inLanguage(kTableNotWritten).c_str(), TablePath().string().c_str()));
         return false;
     }
     std::optional<OpenedTable> opened = openTable();
@@ -162,7 +162,7 @@ bool CPacienteTable::changeTable(Change&& change) {
 bool CPacienteTable::saveTable(const DbfTable& table) {
     std::unique_ptr<TableFileWriter> writer = m_writerFactory(TablePath());
     if (writer && table.write(*writer, dbfToday())) return true;
-    m_prompt.showOk(formatText(kTableNotWritten.data(), TablePath().string().c_str()));
+    m_prompt.showOk(formatText(m_prompt.inLanguage(kTableNotWritten).c_str(), TablePath().string().c_str()));
     return false;
 }
 
@@ -178,7 +178,7 @@ void CPacienteTable::CreateTable() {
         const DbfTable table = DbfTable::create(kPacienteFields);
         std::unique_ptr<TableFileWriter> writer = m_writerFactory(TablePath());
         if (!writer || !table.write(*writer, dbfToday())) {
-            m_prompt.showOk(formatText(kTableNotCreated.data(), TablePath().string().c_str()));
+            m_prompt.showOk(formatText(m_prompt.inLanguage(kTableNotCreated).c_str(), TablePath().string().c_str()));
         }
     } catch (const std::bad_alloc&) {
         showNoMemory();
@@ -192,7 +192,8 @@ int CPacienteTable::LoadClients(std::string_view filter) {
         if (!isAllBlank(filter)) {
             equality = parseDbfEquality(filter);
             if (!equality || !isCodigo(equality->field)) {
-                m_prompt.showOk(formatText(kFilterNotUnderstood.data(), std::string(filter).c_str()));
+                m_prompt.showOk(
+                    formatText(m_prompt.inLanguage(kFilterNotUnderstood).c_str(), std::string(filter).c_str()));
                 return -1;
             }
         }
@@ -269,13 +270,13 @@ int CPacienteTable::InsertClient(const PacienteRecord& record) {
             const std::string code = formatText("%d", record.Codigo);
             const int width = opened.table.field(opened.columns[kCodigo]).length;
             if (record.Codigo < 1 || code.size() > static_cast<std::size_t>(width)) {
-                m_prompt.showOk(formatText(kCodeDoesNotFit.data(), record.Codigo));
+                m_prompt.showOk(formatText(m_prompt.inLanguage(kCodeDoesNotFit).c_str(), record.Codigo));
                 return false;
             }
             // Two copies of the program on one data root may both have offered the same free code; the second
             // insert finds the first one's row here, under the lock, and refuses rather than share a folder.
             if (hasCode(opened.table, opened.columns, record.Codigo)) {
-                m_prompt.showOk(formatText(kCodeTaken.data(), record.Codigo));
+                m_prompt.showOk(formatText(m_prompt.inLanguage(kCodeTaken).c_str(), record.Codigo));
                 return false;
             }
             opened.table.appendBlank();

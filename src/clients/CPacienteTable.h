@@ -18,26 +18,28 @@
 #include "PacienteEntry.h"
 #include "PacienteRecord.h"
 #include "TableFileWriter.h"
+#include "store/DeclaredText.h"
 
 struct Prompt;
 
-inline constexpr std::string_view kFileNotFound = "File not found!";
-inline constexpr std::string_view kInvalidFile = "Invalid File!";
-inline constexpr std::string_view kNoFreeMemory = "Error - There is no free memory available!";
+inline constexpr std::string_view kFileNotFound = SONALYS_TEXT("Sonalys", "File not found!");
+inline constexpr std::string_view kInvalidFile = SONALYS_TEXT("Sonalys", "Invalid File!");
+inline constexpr std::string_view kNoFreeMemory = SONALYS_TEXT("Sonalys", "Error - There is no free memory available!");
 // What the user is told where the table cannot do as asked; nothing is changed in each case.
 inline constexpr std::string_view kTableNotWritten =
-    "The client table %s can´t be written!\nThe previous table was kept unchanged.";
-inline constexpr std::string_view kTableNotCreated = "The client table %s can´t be created!";
+    SONALYS_TEXT("Sonalys", "The client table %s can´t be written!\nThe previous table was kept unchanged.");
+inline constexpr std::string_view kTableNotCreated = SONALYS_TEXT("Sonalys", "The client table %s can´t be created!");
 inline constexpr std::string_view kTableInUse =
-    "The client table is being changed by another user!\nTry again in a moment.";
+    SONALYS_TEXT("Sonalys", "The client table is being changed by another user!\nTry again in a moment.");
 inline constexpr std::string_view kFilterNotUnderstood =
-    "The client search \"%s\" can´t be understood!\nOnly CODIGO = number is accepted.";
-inline constexpr std::string_view kClientRowMissing = "This client is not in the client table!";
+    SONALYS_TEXT("Sonalys", "The client search \"%s\" can´t be understood!\nOnly CODIGO = number is accepted.");
+inline constexpr std::string_view kClientRowMissing =
+    SONALYS_TEXT("Sonalys", "This client is not in the client table!");
 inline constexpr std::string_view kCodeDoesNotFit =
-    "The client code %d can´t be stored in the client table!\nThe client was not inserted.";
+    SONALYS_TEXT("Sonalys", "The client code %d can´t be stored in the client table!\nThe client was not inserted.");
 
 inline constexpr std::string_view kCodeTaken =
-    "The client code %d was just given to another client!\nThe client was not inserted.";
+    SONALYS_TEXT("Sonalys", "The client code %d was just given to another client!\nThe client was not inserted.");
 
 inline constexpr std::string_view kClientTableName = "pacb.dbf";
 

@@ -8,10 +8,12 @@
 #include <optional>
 #include <string_view>
 
+#include "DeclaredText.h"
+
 struct Prompt;
 
-inline constexpr std::string_view kErrorSavingDateFile = "Error Saving File!";
-inline constexpr std::string_view kErrorOpeningDateFile = "Error Opening .ddt file!";
+inline constexpr std::string_view kErrorSavingDateFile = SONALYS_TEXT("Sonalys", "Error Saving File!");
+inline constexpr std::string_view kErrorOpeningDateFile = SONALYS_TEXT("Sonalys", "Error Opening .ddt file!");
 
 // Writes the date file of `recordingPath`: "%d" of the low 32 bits of the recording's creation time in seconds
 // since 1970, as a signed number, with no newline. The time is `creationTime` when given (what the WAV writer

@@ -11,11 +11,13 @@
 #include <string>
 #include <string_view>
 
+#include "DeclaredText.h"
+
 struct Prompt;
 
 inline constexpr int kGraphLabelSlots = 50;          // the table never holds more labels
 inline constexpr std::size_t kLabelTextLimit = 150;  // bytes of one label's text
-inline constexpr std::string_view kErrorSavingLabelFile = "Error saving File!";
+inline constexpr std::string_view kErrorSavingLabelFile = SONALYS_TEXT("Sonalys", "Error saving File!");
 
 // One label. Sample indices count 16-bit values of the loaded buffer, so they hold only for that recording.
 struct GraphLabel {

@@ -9,10 +9,11 @@
 #include <string_view>
 #include <vector>
 
+#include "DeclaredText.h"
 #include "WaveFile.h"
 
 // Shown by the view when a recording of a client folder cannot be read, or holds no samples.
-inline constexpr std::string_view kErrorReadingFile = "Error Reading File";
+inline constexpr std::string_view kErrorReadingFile = SONALYS_TEXT("Sonalys", "Error Reading File");
 
 inline constexpr int kOutsideRecordingNumber = -1;  // RecordingNumber of a file opened from outside a client folder
 inline constexpr int kModelRecordingNumber = -2;    // RecordingNumber of a model opened for comparison

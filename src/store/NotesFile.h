@@ -7,9 +7,11 @@
 #include <string>
 #include <string_view>
 
+#include "DeclaredText.h"
+
 struct Prompt;
 
-inline constexpr std::string_view kErrorSavingNotesFile = "Error Saving Notes File!";
+inline constexpr std::string_view kErrorSavingNotesFile = SONALYS_TEXT("Sonalys", "Error Saving Notes File!");
 
 // The whole notes file of `recordingPath`, or nothing when it cannot be opened (the notes then start empty,
 // without a message).

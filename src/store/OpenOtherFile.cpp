@@ -47,5 +47,5 @@ OtherFileOpening OpenOtherFile(LoadedRecording& recording, const std::filesystem
     recording.Modified = false;
     // The title names the file alone, as the file line does: its folders are no business of the window's title.
     const std::string name = path.filename().string();
-    return {OtherFileResult::Opened, formatText(kOtherFileTitle.data(), name.c_str())};
+    return {OtherFileResult::Opened, formatText(prompt.inLanguage(kOtherFileTitle).c_str(), name.c_str())};
 }

@@ -9,15 +9,17 @@
 #include <string>
 #include <string_view>
 
+#include "DeclaredText.h"
 #include "LoadedRecording.h"
 #include "StereoFold.h"
 
 struct Prompt;
 
-inline constexpr std::string_view kFileRateMustBe = "File rate must be 44100 Hz, 22050 Hz or 11025 Hz!";
-inline constexpr std::string_view kFileMustBe16Bits = "The file must be 16 Bits";
-inline constexpr std::string_view kFileCannotBeOpened = "The file can´t be opened!";
-inline constexpr std::string_view kOtherFileTitle = "File - %s";
+inline constexpr std::string_view kFileRateMustBe =
+    SONALYS_TEXT("Sonalys", "File rate must be 44100 Hz, 22050 Hz or 11025 Hz!");
+inline constexpr std::string_view kFileMustBe16Bits = SONALYS_TEXT("Sonalys", "The file must be 16 Bits");
+inline constexpr std::string_view kFileCannotBeOpened = SONALYS_TEXT("Sonalys", "The file can´t be opened!");
+inline constexpr std::string_view kOtherFileTitle = SONALYS_TEXT("Sonalys", "File - %s");
 
 // Stands for the dialog CConverter1, shown for a stereo file: the channel choice, or nothing when the person does
 // not press Open.

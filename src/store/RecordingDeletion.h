@@ -7,16 +7,17 @@
 #include <span>
 #include <string_view>
 
+#include "DeclaredText.h"
 #include "RecordingFiles.h"
 
 struct Prompt;
 
-inline constexpr std::string_view kConfirmDeleteRecording =
-    "Attention, All Information about this File will be deleted!\nAre you Sure you Want to Continue?";
-inline constexpr std::string_view kErrorDeletingFile = "Error deleting File!";
-inline constexpr std::string_view kSentToBackup =
-    "This file was send to Backup!\nIt´s necessary to attach backup files to access this file!";
-inline constexpr std::string_view kSelectAFile = "Select a file!";
+inline constexpr std::string_view kConfirmDeleteRecording = SONALYS_TEXT(
+    "Sonalys", "Attention, All Information about this File will be deleted!\nAre you Sure you Want to Continue?");
+inline constexpr std::string_view kErrorDeletingFile = SONALYS_TEXT("Sonalys", "Error deleting File!");
+inline constexpr std::string_view kSentToBackup = SONALYS_TEXT(
+    "Sonalys", "This file was send to Backup!\nIt´s necessary to attach backup files to access this file!");
+inline constexpr std::string_view kSelectAFile = SONALYS_TEXT("Sonalys", "Select a file!");
 
 // One file of a deletion: the side file named by its last three characters, or the sound itself for "".
 // A file that is not there is passed over; a failure is told only where `reportFailure` says.

@@ -88,7 +88,7 @@ int NewRecordingPath(LoadedRecording& recording, std::string& title, const Clien
         recording.RecordingPath = folder.path() / kScratchFileName;
     } else {
         const std::string name(clientName);
-        title = formatText(kRecordingTitle.data(), name.c_str(), number);
+        title = formatText(prompt.inLanguage(kRecordingTitle).c_str(), name.c_str(), number);
         recording.RecordingPath = RecordingStemPath(folder, number, recordRate);
     }
     return 1;
@@ -127,12 +127,13 @@ RecordingProbe probeRecording(const FolderListing& files, int number, Prompt& pr
     return probe;
 }
 
-std::string ListRowText(const CalendarDate& date, int number, int languageId) {
+std::string ListRowText(const CalendarDate& date, int number, int languageId, const Prompt& prompt) {
+    const std::string text = prompt.inLanguage(languageId == 2 ? kListRowTextYearFirst : kListRowText);
     switch (languageId) {
     case 1:
-    case 3: return formatText(kListRowText.data(), date.day, date.month, date.year, number);
-    case 2: return formatText(kListRowTextYearFirst.data(), date.year, date.month, date.day, number);
-    default: return formatText(kListRowText.data(), date.month, date.day, date.year, number);
+    case 3: return formatText(text.c_str(), date.day, date.month, date.year, number);
+    case 2: return formatText(text.c_str(), date.year, date.month, date.day, number);
+    default: return formatText(text.c_str(), date.month, date.day, date.year, number);
     }
 }
 
@@ -142,7 +143,8 @@ std::vector<RecordingListRow> ListRecordings(const ClientFolder& folder, int lan
     for (int number = 1; number <= kLastListedNumber; ++number) {
         const RecordingProbe probe = probeRecording(files, number, prompt);
         if (!probe.exists) continue;
-        rows.push_back({number, probe.kind, dateSortKey(probe.date), ListRowText(probe.date, number, languageId)});
+        rows.push_back(
+            {number, probe.kind, dateSortKey(probe.date), ListRowText(probe.date, number, languageId, prompt)});
     }
     return rows;
 }

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "DeclaredText.h"
 #include "FileTimes.h"
 
 struct Prompt;
@@ -27,11 +28,12 @@ inline constexpr std::uint32_t kQvRate = 44100;
 
 inline constexpr std::string_view kOtherFilesFolder = "Other Files";
 inline constexpr std::string_view kScratchFileName = "grav.tmp";
-inline constexpr std::string_view kTooManyFiles = "Number of files exceeds to 150!\nInsert a new client to continue...";
-inline constexpr std::string_view kRecordingTitle = "%s  File - %d";
-inline constexpr std::string_view kListRowText = "%02d/%02d/%04d File %d";
+inline constexpr std::string_view kTooManyFiles =
+    SONALYS_TEXT("Sonalys", "Number of files exceeds to 150!\nInsert a new client to continue...");
+inline constexpr std::string_view kRecordingTitle = SONALYS_TEXT("Sonalys", "%s  File - %d");
+inline constexpr std::string_view kListRowText = SONALYS_TEXT("Sonalys", "%02d/%02d/%04d File %d");
 // Korean dates read year, month, day; each field keeps its own width there.
-inline constexpr std::string_view kListRowTextYearFirst = "%04d/%02d/%02d File %d";
+inline constexpr std::string_view kListRowTextYearFirst = SONALYS_TEXT("Sonalys", "%04d/%02d/%02d File %d");
 
 // The folder of one client's recordings: pacNNN (the code in at least three digits) under the data root, or
 // "Other Files" for work without a client.
@@ -85,8 +87,9 @@ RecordingProbe ProbeRecording(const ClientFolder& folder, int number, Prompt& pr
 RecordingProbe probeRecording(const FolderListing& files, int number, Prompt& prompt);
 
 // The list's row text "%02d/%02d/%04d File %d" in the date order of language `languageId`: day, month, year for
-// Spanish (1) and Portuguese (3), year, month, day for Korean (2), month, day, year for English (0) and any other.
-std::string ListRowText(const CalendarDate& date, int number, int languageId);
+// Spanish (1) and Portuguese (3), year, month, day for Korean (2), month, day, year for English (0) and any other;
+// the words are those of `prompt`'s screen.
+std::string ListRowText(const CalendarDate& date, int number, int languageId, const Prompt& prompt);
 
 struct RecordingListRow {
     int number = 0;

@@ -242,7 +242,7 @@ int WaveWriter::WaveWrite(const std::filesystem::path& fileName, std::uint32_t b
         file.write(header.data(), header.size()) && writeSamples(file, samples, bytes) && file.commit();
     if (!written) {
         const std::string name = fileName.string();
-        prompt.showOk(formatText(kCannotRecordFile.data(), name.c_str()));
+        prompt.showOk(formatText(prompt.inLanguage(kCannotRecordFile).c_str(), name.c_str()));
         return 0;
     }
     m_createdAt = firstCreated ? firstCreated : fileCreationTime(target);

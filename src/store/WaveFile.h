@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "DeclaredText.h"
+
 struct Prompt;
 
 // Result codes of the reader. Callers test only for zero.
@@ -21,7 +23,8 @@ inline constexpr int kWaveFormatUnreadable = 0xE102;  // the 16 fixed bytes or t
 inline constexpr int kWaveDataTruncated = 0xE103;     // "data" claims more bytes than the file holds
 inline constexpr int kWaveChunkNotFound = 265;        // from the RIFF walker: no "fmt " or "data" chunk
 
-inline constexpr std::string_view kCannotRecordFile = "The %s file can´t be recorded!\nVerify if the file is opened!";
+inline constexpr std::string_view kCannotRecordFile =
+    SONALYS_TEXT("Sonalys", "The %s file can´t be recorded!\nVerify if the file is opened!");
 
 // The file's format record in its on-disk order; `extra` holds the cbSize bytes that follow it.
 struct WaveFormat {

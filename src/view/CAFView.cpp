@@ -239,8 +239,8 @@ int CAFView::OpenRecording(int kind, int number) {
     stopAudio();
     const DisplayMode remembered = m_displayMode;
     CloseRecording();
-    m_doc->SetTitle(
-        QString::fromStdString(formatText(kRecordingTitle.data(), m_clientName.toStdString().c_str(), number)));
+    m_doc->SetTitle(QString::fromStdString(
+        formatText(uiText(kRecordingTitle).toStdString().c_str(), m_clientName.toStdString().c_str(), number)));
     const bool qv = kind == 1 || kind == 3;
     m_recording.RecordingPath = recordingFilePath(m_client, qv ? "qv" : "wv", number, "wav");
     m_recording.RecordingNumber = number;

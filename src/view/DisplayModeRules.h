@@ -5,12 +5,13 @@
 #include <string_view>
 
 #include <QColor>
+#include <QtGlobal>
 
 #include "view/DisplayMode.h"
 
 struct Prompt;
 
-inline constexpr std::string_view kInvalidFunction = "Invalid Function!";
+inline constexpr std::string_view kInvalidFunction = QT_TRANSLATE_NOOP("Sonalys", "Invalid Function!");
 
 // The live modes (nothing loaded: ready to record, or recording) are below 9.
 constexpr bool isLiveMode(DisplayMode mode) { return static_cast<int>(mode) < 9; }

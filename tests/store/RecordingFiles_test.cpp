@@ -139,11 +139,12 @@ TEST(ProbeRecording, DateComesFromTheDateFileOfTheSoundFoundOrTheFileSystem) {
 
 TEST(RecordingList, RowsReadTheDateInTheLanguagesOrderAndStopBelow150) {
     const CalendarDate date{2010, 1, 2};
-    EXPECT_EQ(ListRowText(date, 5, 0), "01/02/2010 File 5");
-    EXPECT_EQ(ListRowText(date, 5, 1), "02/01/2010 File 5");
-    EXPECT_EQ(ListRowText(date, 5, 2), "2010/01/02 File 5");
-    EXPECT_EQ(ListRowText(date, 5, 3), "02/01/2010 File 5");
-    EXPECT_EQ(ListRowText(date, 123, 7), "01/02/2010 File 123");
+    const FakePrompt english;
+    EXPECT_EQ(ListRowText(date, 5, 0, english), "01/02/2010 File 5");
+    EXPECT_EQ(ListRowText(date, 5, 1, english), "02/01/2010 File 5");
+    EXPECT_EQ(ListRowText(date, 5, 2, english), "2010/01/02 File 5");
+    EXPECT_EQ(ListRowText(date, 5, 3, english), "02/01/2010 File 5");
+    EXPECT_EQ(ListRowText(date, 123, 7, english), "01/02/2010 File 123");
 
     TempDir root;
     FakePrompt prompt;
