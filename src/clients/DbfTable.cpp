@@ -6,8 +6,8 @@
 #include <fstream>
 
 #include "TableFileWriter.h"
-#include "store/Assert.h"
-#include "store/ByteOrder.h"
+#include "base/Assert.h"
+#include "base/ByteOrder.h"
 
 namespace {
 

@@ -14,7 +14,7 @@
 #include "TempDir.h"
 #include "audio/BasicWindows.h"
 #include "audio/CrashMarker.h"
-#include "store/ByteOrder.h"
+#include "base/ByteOrder.h"
 #include "store/TextFormat.h"
 #include "store/WaveFile.h"
 
