@@ -60,17 +60,33 @@ TEST(DeleteFromList, SoundNotesAndDateGoTheLabelsStayAndABackupIsRefused) {
     EXPECT_EQ(filesIn(root / "pac002").size(), 6u);
 }
 
-TEST(DeleteFromView, ASoundThatCannotBeDeletedIsReportedAndItsSideFilesGoAnyway) {
-    TempDir root;
-    FakePrompt prompt;
-    makeRecording(root, "pac003/wv004");
-    const std::string sound = quoted(root / "pac003/wv004.wav");  // immutable: not even the superuser deletes it
-    if (runCommand("chattr +i " + sound + " 2>/dev/null").exitCode != 0) GTEST_SKIP() << "no immutable files here";
-    const bool deleted = DeleteRecordingFilesFromView({root.path(), 3}, 4, root / "pac003/wv004.wav", prompt);
-    runCommand("chattr -i " + sound);
-    EXPECT_FALSE(deleted);
-    EXPECT_EQ(prompt.shown, std::vector<std::string>{"Error deleting File!"});
-    EXPECT_EQ(filesIn(root / "pac003"), (std::set<std::string>{"wv004.wav", "wv004.txt", "wv004.bkp", "wv004.rtf"}));
+// Only a sound that stays is reported: a side file that cannot go is passed over in silence. Immutable files
+// resist even the superuser.
+TEST(DeleteRecording, OnlyASoundThatCannotBeDeletedIsReportedAndTheOtherFilesGoAnyway) {
+    struct Case {
+        bool fromList;
+        const char* stuck;
+        std::vector<std::string> shown;
+        std::set<std::string> left;
+    };
+    const std::string confirm(kConfirmDeleteRecording);
+    for (const Case& c : std::vector<Case>{
+             {false, "wv004.wav", {"Error deleting File!"}, {"wv004.wav", "wv004.txt", "wv004.bkp", "wv004.rtf"}},
+             {true, "wv004.txt", {confirm}, {"wv004.txt", "wv004.mrk", "wv004.bkp", "wv004.rtf"}}}) {
+        TempDir root;
+        FakePrompt prompt;
+        makeRecording(root, "pac003/wv004");
+        const std::string stuck = quoted(root / "pac003" / c.stuck);
+        if (runCommand("chattr +i " + stuck + " 2>/dev/null").exitCode != 0) GTEST_SKIP() << "no immutable files";
+        if (c.fromList) {
+            DeleteRecordingFilesFromList({root.path(), 3}, 4, FileKind::WvWithDate, prompt);
+        } else {
+            DeleteRecordingFilesFromView({root.path(), 3}, 4, root / "pac003/wv004.wav", prompt);
+        }
+        runCommand("chattr -i " + stuck);
+        EXPECT_EQ(prompt.shown, c.shown) << c.stuck;
+        EXPECT_EQ(filesIn(root / "pac003"), c.left) << c.stuck;
+    }
 }
 
 TEST(DeleteClient, WildcardsRemoveTheirFilesInAnyCase) {
