@@ -434,5 +434,11 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Voice and speech analysis for speech therapy</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The client table %s does not match its own header!
+It is opened read-only and no change is written to it.</source>
+        <translation>¡La tabla de pacientes %s no coincide con su propio encabezado!
+Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translation>
+    </message>
 </context>
 </TS>

@@ -434,5 +434,11 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Voice and speech analysis for speech therapy</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The client table %s does not match its own header!
+It is opened read-only and no change is written to it.</source>
+        <translation>환자 데이터베이스 파일 %s이(가) 자체 헤더와 일치하지 않습니다!
+읽기 전용으로 열리며 어떤 변경 사항도 저장되지 않습니다.</translation>
+    </message>
 </context>
 </TS>

@@ -434,5 +434,11 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Voice and speech analysis for speech therapy</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The client table %s does not match its own header!
+It is opened read-only and no change is written to it.</source>
+        <translation>A tabela de pacientes %s não corresponde ao seu próprio cabeçalho!
+Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</translation>
+    </message>
 </context>
 </TS>

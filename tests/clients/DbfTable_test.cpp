@@ -62,8 +62,13 @@ TEST_F(ClientTable, ACreatedTableAndARecordHaveTheExactPublishedLayout) {
     EXPECT_EQ(names(), std::vector<std::string>{name});
     EXPECT_EQ(table.EntryAt(0)->codigoText, "12  ");
     EXPECT_EQ(table.EntryAt(0)->tipoText, "1   ");
+    // A table marked as having memo fields is written back as the plain table it is.
+    root.write("pacb.dbf", "\x83" + written.substr(1));
+    ASSERT_EQ(table.InsertClient(makeClient(13, "B")), 1);
+    EXPECT_EQ(bytes()[0], '\x03');
+    ASSERT_EQ(table.LoadClients("CODIGO=12"), 1);
     table.EntryAt(0)->Selected = 1;  // the backup mark lives in the list only
-    ASSERT_EQ(table.LoadClients(), 1);
+    ASSERT_EQ(table.LoadClients("CODIGO=12"), 1);
     EXPECT_EQ(table.EntryAt(0)->Selected, 0);
 }
 
