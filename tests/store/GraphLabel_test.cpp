@@ -28,22 +28,17 @@ GraphLabelTable readText(const std::string& text) {
 
 }  // namespace
 
-TEST(ReadLabelToken, DoubleSemicolonEndsATokenAndASingleOneBelongsToIt) {
+// One character is a token, a single semicolon belongs to it, and an empty token stops at once with its second
+// semicolon left to begin the next token; the end of the file stops a token too.
+TEST(ReadLabelToken, DoubleSemicolonEndsATokenAndAnEmptyOneLeavesItsSecondSemicolon) {
     std::istringstream in("5;;a;b;;x;;;;7;;abc");
-    std::string token;
-    EXPECT_EQ(ReadLabelToken(token, in), 1);
-    EXPECT_EQ(token, "5");  // one character is a token
-    EXPECT_EQ(ReadLabelToken(token, in), 1);
-    EXPECT_EQ(token, "a;b");
-    EXPECT_EQ(ReadLabelToken(token, in), 1);
-    EXPECT_EQ(token, "x");
-    // An empty token stops at once, its second semicolon left to begin the next token.
-    EXPECT_EQ(ReadLabelToken(token, in), 0);
-    EXPECT_EQ(ReadLabelToken(token, in), 1);
-    EXPECT_EQ(token, ";7");
-    EXPECT_EQ(ReadLabelToken(token, in), 0);  // cut short by the end of the file
-    EXPECT_EQ(token, "");
-    EXPECT_EQ(ReadLabelToken(token, in), 0);
+    const std::pair<int, std::string> expected[] = {{1, "5"},  {1, "a;b"}, {1, "x"}, {0, ""},
+                                                    {1, ";7"}, {0, ""},    {0, ""}};
+    for (const auto& [result, text] : expected) {
+        std::string token = "old";
+        EXPECT_EQ(ReadLabelToken(token, in), result) << text;
+        EXPECT_EQ(token, text);
+    }
 }
 
 TEST(LabelFile, LabelsAreWrittenAsTokensWithoutTheFreedOnesAndReadBack) {

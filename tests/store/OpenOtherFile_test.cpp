@@ -9,43 +9,11 @@ using namespace wavebytes;
 
 namespace {
 
-StereoChooser choose(std::optional<StereoChoice> choice, int* asked = nullptr) {
-    return [choice, asked] {
-        if (asked) ++*asked;
-        return choice;
-    };
+StereoChooser choose(std::optional<StereoChoice> choice) {
+    return [choice] { return choice; };
 }
-
-const std::string kRate = "File rate must be 44100 Hz, 22050 Hz or 11025 Hz!";
-const std::string kBits = "The file must be 16 Bits";
 
 }  // namespace
-
-TEST(OpenOtherFile, RateIsTestedFirstThenTheWidth) {
-    struct Row {
-        std::uint32_t rate;
-        std::uint16_t bits;
-        std::string message;  // empty: opens
-    };
-    const std::vector<Row> rows = {{44100, 16, ""},    {22050, 16, ""},  {11025, 16, ""},
-                                   {22051, 16, kRate}, {8000, 8, kRate}, {22050, 8, kBits}};
-    TempDir dir;
-    for (const Row& row : rows) {
-        FakePrompt prompt;
-        dir.write("f.wav", simpleWave(1, row.rate, pcm16({1, 2, 3, 4, 5, 6}), row.bits));
-        LoadedRecording recording;
-        int asked = 0;
-        const OtherFileOpening opening =
-            OpenOtherFile(recording, dir / "f.wav", choose(StereoChoice::Mix, &asked), prompt);
-        const std::string what = std::to_string(row.rate) + " Hz " + std::to_string(row.bits) + " bits";
-        EXPECT_EQ(opening.result, row.message.empty() ? OtherFileResult::Opened : OtherFileResult::Refused) << what;
-        EXPECT_EQ(prompt.shown,
-                  row.message.empty() ? std::vector<std::string>{} : std::vector<std::string>{row.message})
-            << what;
-        EXPECT_EQ(recording.SampleCount(), row.message.empty() ? 6u : 0u) << what;
-        EXPECT_EQ(asked, 0) << what;
-    }
-}
 
 TEST(OpenOtherFile, StereoIsFoldedAsChosenAndMarked) {
     TempDir dir;
