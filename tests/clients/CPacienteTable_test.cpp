@@ -34,15 +34,6 @@ TEST(CutRule, TrailingBlanksGoAndAFullFieldLosesItsLastWord) {
     EXPECT_EQ(ClientFolderName(1000), "pac1000");
 }
 
-TEST_F(ClientTable, RowsFromAnotherToolFollowTheCutRuleAndRightJustifiedCodesMatch) {
-    const std::string withBlank = "MARIA DA CONCEICAO " + std::string(35, 'X') + " SOUZA";
-    writeRows({{"1", withBlank}, {"  12", std::string(60, 'M')}});
-    ASSERT_EQ(table.LoadClients(), 2);
-    EXPECT_EQ(names(), (std::vector<std::string>{withBlank.substr(0, 54), ""}));
-    EXPECT_EQ(table.LoadClients("CODIGO=12"), 2);
-    EXPECT_EQ(table.EntryAt(0)->codigoText, "  12");
-}
-
 TEST_F(ClientTable, AFilterLoadsTheMatchesOrIsRefusedAndTheListKept) {
     writeRows({{"5", "A"}, {"7", "B"}, {"5", "C"}});  // a table written elsewhere may hold one code twice
     EXPECT_EQ(table.LoadClients("CODIGO=5"), 3);      // the last matching record number
