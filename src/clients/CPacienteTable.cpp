@@ -207,8 +207,11 @@ int CPacienteTable::LoadClients(std::string_view filter) {
         std::optional<OpenedTable> opened = openTable();
         if (!opened) return -1;
         DbfTable& table = opened->table;
-        if (!table.sizeMatchesHeader())
+        // The list is reloaded often: a mismatched table is told once, until it matches again or another opens.
+        const bool mismatched = !table.sizeMatchesHeader();
+        if (mismatched && m_readOnlyToldFor != TablePath())
             m_prompt.showOk(formatText(kTableReadOnly.data(), TablePath().string().c_str()));
+        m_readOnlyToldFor = mismatched ? TablePath() : std::filesystem::path{};
         m_entries.clear();
         int last = 0;
         for (table.top(); !table.eof(); table.skip()) {

@@ -82,7 +82,8 @@ public:
     // Rebuilds the list from the table: every row, or with a filter "CODIGO=%d" (blanks allowed) the matching
     // rows. Returns the record number of the last row read (0 when none was), or -1 on failure; the list is
     // unchanged when the table cannot be read at all. Rows are read as they stand, those flagged deleted by
-    // another tool included. A table whose size disagrees with its header is listed, with kTableReadOnly.
+    // another tool included. A table whose size disagrees with its header is listed, with kTableReadOnly
+    // at its first load.
     int LoadClients(std::string_view filter = {});
     PacienteEntry* EntryAt(int index);  // from 0; null past the last entry
     const PacienteEntry* EntryAt(int index) const;
@@ -122,4 +123,5 @@ private:
     std::vector<PacienteEntry> m_entries;  // in the order read
     TableWriterFactory m_writerFactory = openReplacingWriter;
     std::chrono::milliseconds m_lockWait{10000};
+    std::filesystem::path m_readOnlyToldFor;  // the mismatched table last loaded, once told so
 };
