@@ -73,14 +73,6 @@ TEST_F(Interop, GdalReadsOurTableWithTheElevenFieldsAndTheirValues) {
                                ") = " + row[f]);
     }
     EXPECT_EQ(fieldLines, expected);
-    std::vector<std::string> widths, expectedWidths;
-    for (const std::string& line : lines("ogrinfo -ro -al -so " + path)) {
-        if (line.find(": Integer (") != std::string::npos || line.find(": String (") != std::string::npos)
-            widths.push_back(line);
-    }
-    for (const DbfFieldSpec& f : kPacienteFields)
-        expectedWidths.push_back(std::string(f.name) + ": " + ogrType(f) + " (" + std::to_string(f.length) + ".0)");
-    EXPECT_EQ(widths, expectedWidths);
 }
 
 TEST_F(Interop, DbviewReadsOurTableWithTheElevenFieldsAndTheirValues) {
