@@ -28,19 +28,6 @@ GraphLabelTable readText(const std::string& text) {
 
 }  // namespace
 
-// One character is a token, a single semicolon belongs to it, and an empty token stops at once with its second
-// semicolon left to begin the next token; the end of the file stops a token too.
-TEST(ReadLabelToken, DoubleSemicolonEndsATokenAndAnEmptyOneLeavesItsSecondSemicolon) {
-    std::istringstream in("5;;a;b;;x;;;;7;;abc");
-    const std::pair<int, std::string> expected[] = {{1, "5"},  {1, "a;b"}, {1, "x"}, {0, ""},
-                                                    {1, ";7"}, {0, ""},    {0, ""}};
-    for (const auto& [result, text] : expected) {
-        std::string token = "old";
-        EXPECT_EQ(ReadLabelToken(token, in), result) << text;
-        EXPECT_EQ(token, text);
-    }
-}
-
 TEST(LabelFile, LabelsAreWrittenAsTokensWithoutTheFreedOnesAndReadBack) {
     TempDir dir;
     FakePrompt prompt;

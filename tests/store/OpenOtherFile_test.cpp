@@ -2,10 +2,8 @@
 
 #include "FakePrompt.h"
 #include "TempDir.h"
-#include "WaveBytes.h"
+#include "WaveData.h"
 #include "store/OpenOtherFile.h"
-
-using namespace wavebytes;
 
 namespace {
 
@@ -16,10 +14,8 @@ StereoChooser choose(std::optional<StereoChoice> choice) {
 }  // namespace
 
 TEST(OpenOtherFile, StereoIsFoldedAsChosenAndMarked) {
-    TempDir dir;
     FakePrompt prompt;
-    const auto path = dir / "stereo.wav";
-    dir.write("stereo.wav", simpleWave(2, 22050, pcm16({-1, 1, -3, 0, 32767, 32767, -32768, -32767, 7, 8})));
+    const auto path = kWaveData / "stereo-22050.wav";
     LoadedRecording recording;
     recording.RecordingNumber = 4;
     recording.Modified = true;
@@ -41,8 +37,8 @@ TEST(OpenOtherFile, StereoIsFoldedAsChosenAndMarked) {
     EXPECT_EQ(recording.samples()[3], -32767);
     EXPECT_EQ(recording.samples()[4], 8);
 
-    dir.write("mono.wav", simpleWave(1, 11025, pcm16({9})));
-    ASSERT_EQ(OpenOtherFile(recording, dir / "mono.wav", choose(std::nullopt), prompt).result, OtherFileResult::Opened);
+    ASSERT_EQ(OpenOtherFile(recording, kWaveData / "mono-11025.wav", choose(std::nullopt), prompt).result,
+              OtherFileResult::Opened);
     EXPECT_FALSE(recording.OpenedStereoAsMono);
     EXPECT_TRUE(prompt.shown.empty());
 
@@ -55,7 +51,7 @@ TEST(OpenOtherFile, StereoIsFoldedAsChosenAndMarked) {
 TEST(OpenOtherFile, AnUnreadableFileShowsNothingAndAClientFileLoadsAsItStands) {
     TempDir dir;
     FakePrompt prompt;
-    dir.write("PAC001/WV001.WAV", simpleWave(2, 48000, pcm16({1, 2, 3, 4}), 8));
+    dir.write("PAC001/WV001.WAV", waveData("stereo-48000-8-bit.wav"));
     dir.write("bad.wav", "RIFF....WAVEjunk");
     LoadedRecording recording;
     ASSERT_EQ(recording.LoadSamples(dir / "pac001/wv001.wav"), 1);
