@@ -78,18 +78,3 @@ TEST(WaveLoad, FormatRecordKeepsExtraBytesOnlyForTagsOtherThanPcm) {
               std::string("\x10\0\x04\0\0\0", 6) + "0123456789abcdef");
     EXPECT_EQ(ext.samples.size(), 3u);  // 24-bit samples come back as 16-bit units; callers test the width
 }
-
-TEST(WaveReadSamples, ReadsInPiecesWithinWhatTheChunkHasLeft) {
-    WaveOpenResult opened = WaveOpen(kWaveData / "five-values-then-list.wav");
-    ASSERT_EQ(opened.code, kWaveOk);
-    ASSERT_EQ(WaveFindData(opened.handle), kWaveOk);
-    std::int16_t buffer[8] = {};
-    std::uint32_t count = 0;
-    EXPECT_EQ(WaveReadSamples(opened.handle, buffer, 4, count), kWaveOk);
-    EXPECT_EQ(count, 2u);
-    EXPECT_EQ(WaveReadSamples(opened.handle, buffer + 2, 100, count), kWaveOk);  // only 6 bytes are left
-    EXPECT_EQ(count, 3u);
-    EXPECT_EQ(WaveReadSamples(opened.handle, buffer + 5, 100, count), kWaveOk);
-    EXPECT_EQ(count, 0u);
-    EXPECT_EQ(std::vector<std::int16_t>(buffer, buffer + 6), (std::vector<std::int16_t>{10, 20, 30, 40, 50, 0}));
-}
