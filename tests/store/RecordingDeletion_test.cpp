@@ -58,7 +58,8 @@ TEST(DeleteRecording, EachWayRemovesItsOwnFilesAndReportsOnlyASoundThatStays) {
     }
 }
 
-TEST(DeleteRecording, OutsideTheClientsByPathAndFromTheListOnlyAfterYesAndNeverABackup) {
+// Asking first, and refusing a recording sent to backup, are checked where the recording list dialog deletes.
+TEST(DeleteRecording, OutsideTheClientsTheFilesGoByTheSoundsPath) {
     TempDir root;
     FakePrompt prompt;
     root.touch({"Other Files/Take One.WAV", "Other Files/Take One.ddt", "Other Files/Take One.mrk",
@@ -67,15 +68,6 @@ TEST(DeleteRecording, OutsideTheClientsByPathAndFromTheListOnlyAfterYesAndNeverA
         DeleteRecordingFilesFromView({root.path(), OutsideClientCode}, 5, root / "Other Files/Take One.WAV", prompt));
     EXPECT_EQ(filesIn(root / "Other Files"), std::set<std::string>{"Take One.txt"});
     EXPECT_TRUE(prompt.shown.empty());
-
-    makeRecording(root, "pac002/wv001");
-    prompt.answers = {false};
-    EXPECT_FALSE(DeleteRecordingFilesFromList({root.path(), 2}, 1, FileKind::WvWithDate, prompt));
-    EXPECT_FALSE(DeleteRecordingFilesFromList({root.path(), 2}, 1, FileKind::SentToBackup, prompt));
-    EXPECT_EQ(prompt.shown, (std::vector<std::string>{std::string(kConfirmDeleteRecording),
-                                                      "This file was send to Backup!\nIt´s necessary to attach "
-                                                      "backup files to access this file!"}));
-    EXPECT_EQ(filesIn(root / "pac002").size(), 6u);
 }
 
 TEST(DeleteClient, WildcardsRemoveTheirFilesInAnyCase) {
