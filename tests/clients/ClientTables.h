@@ -58,9 +58,4 @@ protected:
         for (int i = 0; i < table.Count(); ++i) result.push_back(table.EntryAt(i)->record.Codigo);
         return result;
     }
-    std::vector<std::string> names() const {
-        std::vector<std::string> result;
-        for (int i = 0; i < table.Count(); ++i) result.emplace_back(recordText(table.EntryAt(i)->record.Nome));
-        return result;
-    }
 };
