@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "analysis/FormantTracker.h"
-#include "store/ByteOrder.h"
+#include "base/ByteOrder.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "FuzzScratchFile.h"
-#include "store/Assert.h"
+#include "base/Assert.h"
 #include "store/GraphLabel.h"
 #include "store/Prompt.h"
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "FuzzScratchFile.h"
-#include "store/Assert.h"
+#include "base/Assert.h"
 #include "store/OpenOtherFile.h"
 #include "store/Prompt.h"
 #include "store/WaveFile.h"

@@ -1107,5 +1107,11 @@ Do You want to Continue?</source>
         <source>Choose the input the recordings are taken from</source>
         <translation>Elegir la entrada de la que se toman las grabaciones</translation>
     </message>
+    <message>
+        <source>The client table %s does not match its own header!
+It is opened read-only and no change is written to it.</source>
+        <translation>¡La tabla de pacientes %s no coincide con su propio encabezado!
+Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translation>
+    </message>
 </context>
 </TS>

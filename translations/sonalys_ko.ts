@@ -1107,5 +1107,11 @@ Do You want to Continue?</source>
         <source>Choose the input the recordings are taken from</source>
         <translation>녹음에 사용할 입력을 선택합니다</translation>
     </message>
+    <message>
+        <source>The client table %s does not match its own header!
+It is opened read-only and no change is written to it.</source>
+        <translation>환자 데이터베이스 파일 %s이(가) 자체 헤더와 일치하지 않습니다!
+읽기 전용으로 열리며 어떤 변경 사항도 저장되지 않습니다.</translation>
+    </message>
 </context>
 </TS>

@@ -1107,5 +1107,11 @@ Deseja continuar?</translation>
         <source>Choose the input the recordings are taken from</source>
         <translation>Escolher a entrada da qual as gravações são feitas</translation>
     </message>
+    <message>
+        <source>The client table %s does not match its own header!
+It is opened read-only and no change is written to it.</source>
+        <translation>A tabela de pacientes %s não corresponde ao seu próprio cabeçalho!
+Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</translation>
+    </message>
 </context>
 </TS>

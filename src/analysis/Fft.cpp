@@ -5,7 +5,7 @@
 #include <mutex>
 #include <new>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <numbers>
 #include <utility>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 void seedRootEstimates(RootEstimates& estimates, int order) {
     const double x = std::numbers::pi / (order + 1);

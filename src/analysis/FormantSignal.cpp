@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "analysis/IirFilter.h"
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 int upsamplingFactor(double rate) {
     if (rate < 20000.0) return 4;

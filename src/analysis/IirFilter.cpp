@@ -5,7 +5,7 @@
 #include <new>
 #include <numbers>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 std::vector<double> makeLpcWindow(int kind, int size) {
     std::vector<double> w(static_cast<std::size_t>(size > 0 ? size : 0));

@@ -1,6 +1,6 @@
 #include "analysis/Palette.h"
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 int HueChannel(int m1, int m2, int hue) {
     // The hue arrives as a 16-bit value: above 240 it is brought back by one turn. A negative hue has wrapped

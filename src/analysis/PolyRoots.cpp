@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 int quadraticRoots(double a, double b, double c, double& r1, double& i1, double& r2, double& i2) {
     if (a == 0.0) {

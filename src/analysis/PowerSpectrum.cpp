@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 PowerSpectrum::PowerSpectrum() {
     const double twoPi = 8.0 * std::atan(1.0);

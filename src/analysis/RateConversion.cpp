@@ -9,7 +9,7 @@
 #include <optional>
 #include <utility>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 #include "store/Prompt.h"
 #include "store/WaveFile.h"
 

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 int spectrogramFftLength(int rate, int height, int zoomWhole) {
     switch (rate) {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 // How the stage runs fast. Written plainly, the stage runs its filter twice over up * n working-rate steps, most of
 // them fed with stuffed zeros and most of their outputs thrown away. Both passes are linear, so over a block of

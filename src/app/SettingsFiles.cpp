@@ -4,7 +4,7 @@
 #include <iterator>
 #include <system_error>
 
-#include "store/ByteOrder.h"
+#include "base/ByteOrder.h"
 #include "store/ReplacingFile.h"
 
 std::optional<std::vector<std::int32_t>> ReadSettingInts(const std::filesystem::path& file, std::size_t count) {

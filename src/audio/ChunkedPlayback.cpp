@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "audio/WavePlayer.h"
-#include "store/Assert.h"
+#include "base/Assert.h"
 #include "store/Prompt.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <array>
 #include <fstream>
 
-#include "store/ByteOrder.h"
+#include "base/ByteOrder.h"
 #include "store/Prompt.h"
 #include "store/ReplacingFile.h"
 

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "audio/CrashMarker.h"
-#include "store/Assert.h"
-#include "store/ByteOrder.h"
+#include "base/Assert.h"
+#include "base/ByteOrder.h"
 #include "store/Prompt.h"
 #include "store/TextFormat.h"
 

@@ -5,6 +5,7 @@
 
 #include "DbfFilter.h"
 #include "TableLock.h"
+#include "store/FileLookup.h"
 #include "store/Prompt.h"
 #include "store/TextFormat.h"
 
@@ -42,7 +43,7 @@ void assignFields(DbfTable& table, const Columns& columns, const PacienteRecord&
 
 bool hasCode(DbfTable& table, const Columns& columns, int code) {
     for (table.top(); !table.eof(); table.skip()) {
-        if (!table.deleted() && dbfFieldToInt(table.fieldText(columns[kCodigo])) == code) return true;
+        if (dbfFieldToInt(table.fieldText(columns[kCodigo])) == code) return true;
     }
     return false;
 }
@@ -88,6 +89,8 @@ CPacienteTable::CPacienteTable(std::filesystem::path dataRoot, Prompt& prompt)
 
 void CPacienteTable::SetFileName(std::filesystem::path name) { m_fileName = std::move(name); }
 
+std::filesystem::path CPacienteTable::TablePath() const { return findFileIgnoringCase(m_dataRoot / m_fileName); }
+
 bool CPacienteTable::TableExists() const {
     std::error_code error;
     const auto status = std::filesystem::status(TablePath(), error);
@@ -96,7 +99,7 @@ bool CPacienteTable::TableExists() const {
 
 bool CPacienteTable::RequireTable(const std::filesystem::path& name) {
     std::error_code error;
-    const auto status = std::filesystem::status(m_dataRoot / name, error);
+    const auto status = std::filesystem::status(findFileIgnoringCase(m_dataRoot / name), error);
     if (!error && std::filesystem::exists(status) && !std::filesystem::is_directory(status)) return true;
     m_prompt.showOk(kFileNotFound);
     return false;
@@ -155,7 +158,12 @@ bool CPacienteTable::changeTable(Change&& change) {
         return false;
     }
     std::optional<OpenedTable> opened = openTable();
-    if (!opened || !change(*opened)) return false;
+    if (!opened) return false;
+    if (!opened->table.sizeMatchesHeader()) {
+        m_prompt.showOk(formatText(kTableReadOnly.data(), TablePath().string().c_str()));
+        return false;
+    }
+    if (!change(*opened)) return false;
     return saveTable(opened->table);
 }
 
@@ -200,10 +208,14 @@ int CPacienteTable::LoadClients(std::string_view filter) {
         std::optional<OpenedTable> opened = openTable();
         if (!opened) return -1;
         DbfTable& table = opened->table;
+        // The list is reloaded often: a mismatched table is told once, until it matches again or another opens.
+        const bool mismatched = !table.sizeMatchesHeader();
+        if (mismatched && m_readOnlyToldFor != TablePath())
+            m_prompt.showOk(formatText(kTableReadOnly.data(), TablePath().string().c_str()));
+        m_readOnlyToldFor = mismatched ? TablePath() : std::filesystem::path{};
         m_entries.clear();
         int last = 0;
         for (table.top(); !table.eof(); table.skip()) {
-            if (table.deleted()) continue;
             if (equality && dbfFieldToInt(table.fieldText(opened->columns[kCodigo])) != equality->value) continue;
             if (!appendEntry(table, opened->columns)) return -1;
             last = table.recNo();
@@ -236,22 +248,27 @@ const PacienteEntry* CPacienteTable::EntryAt(int index) const {
     return &m_entries[static_cast<std::size_t>(index)];
 }
 
-// The lowest positive code not in the list. Only codes up to the count can be the answer, so one mark per
-// possible code finds it in one pass; if even that memory is missing, the list is scanned from the head for each
-// candidate in turn, which gives the same code.
 int CPacienteTable::NextFreeCode() const {
+    int candidate = lowestCodeNotListed(1);
+    while (clientFolderHoldsFiles(candidate)) candidate = lowestCodeNotListed(candidate + 1);
+    return candidate;
+}
+
+// The lowest code from `from` up that no entry has. Only the count's worth of codes past `from` can be taken, so
+// one mark per such code finds it in one pass; if even that memory is missing, the list is scanned from the head
+// for each candidate in turn, which gives the same code.
+int CPacienteTable::lowestCodeNotListed(int from) const {
     try {
         std::vector<bool> used(m_entries.size() + 1, false);
         for (const PacienteEntry& entry : m_entries) {
-            const std::int32_t code = entry.record.Codigo;
-            if (code >= 1 && static_cast<std::size_t>(code) <= used.size())
-                used[static_cast<std::size_t>(code - 1)] = true;
+            const std::int64_t slot = static_cast<std::int64_t>(entry.record.Codigo) - from;
+            if (slot >= 0 && static_cast<std::size_t>(slot) < used.size()) used[static_cast<std::size_t>(slot)] = true;
         }
-        std::size_t candidate = 0;
-        while (used[candidate]) ++candidate;
-        return static_cast<int>(candidate + 1);
+        std::size_t slot = 0;
+        while (used[slot]) ++slot;
+        return from + static_cast<int>(slot);
     } catch (const std::bad_alloc&) {
-        int candidate = 1;
+        int candidate = from;
         for (std::size_t i = 0; i < m_entries.size(); ++i) {
             if (m_entries[i].record.Codigo == candidate) {
                 ++candidate;
@@ -260,6 +277,14 @@ int CPacienteTable::NextFreeCode() const {
         }
         return candidate;
     }
+}
+
+// Any file at all in the folder, in whatever case it is spelled, belongs to someone: a recording, its notes or
+// a report of an earlier client whose row has gone.
+bool CPacienteTable::clientFolderHoldsFiles(int code) const {
+    std::error_code error;
+    const std::filesystem::directory_iterator entries(findFileIgnoringCase(m_dataRoot / ClientFolderName(code)), error);
+    return !error && entries != std::filesystem::directory_iterator();
 }
 
 int CPacienteTable::InsertClient(const PacienteRecord& record) {

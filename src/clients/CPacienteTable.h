@@ -38,6 +38,9 @@ inline constexpr std::string_view kClientRowMissing =
 inline constexpr std::string_view kCodeDoesNotFit =
     SONALYS_TEXT("Sonalys", "The client code %d can´t be stored in the client table!\nThe client was not inserted.");
 
+// A table whose header counts other rows than the file holds is only read: writing it would lose rows.
+inline constexpr std::string_view kTableReadOnly =
+    "The client table %s does not match its own header!\nIt is opened read-only and no change is written to it.";
 inline constexpr std::string_view kCodeTaken =
     SONALYS_TEXT("Sonalys", "The client code %d was just given to another client!\nThe client was not inserted.");
 
@@ -71,6 +74,8 @@ public:
     // `dataRoot` is the folder that holds the table and the client folders; messages go to `prompt`.
     CPacienteTable(std::filesystem::path dataRoot, Prompt& prompt);
 
+    // The table is found whatever the case of its name, like the client folders: a data root copied from Windows
+    // may hold PACB.DBF, which is then read and written under that name, never doubled by a new pacb.dbf.
     void SetFileName(std::filesystem::path name);          // relative to the data root
     bool TableExists() const;                              // silent
     bool RequireTable(const std::filesystem::path& name);  // as TableExists for `name`, with "File not found!"
@@ -78,13 +83,16 @@ public:
 
     // Rebuilds the list from the table: every row, or with a filter "CODIGO=%d" (blanks allowed) the matching
     // rows. Returns the record number of the last row read (0 when none was), or -1 on failure; the list is
-    // unchanged when the table cannot be read at all. Rows marked as deleted by another tool are not listed.
+    // unchanged when the table cannot be read at all. Rows are read as they stand, those flagged deleted by
+    // another tool included. A table whose size disagrees with its header is listed, with kTableReadOnly
+    // at its first load.
     int LoadClients(std::string_view filter = {});
     PacienteEntry* EntryAt(int index);  // from 0; null past the last entry
     const PacienteEntry* EntryAt(int index) const;
     int Count() const noexcept { return static_cast<int>(m_entries.size()); }
     void FreeList() noexcept { m_entries.clear(); }
-    // The lowest positive code that no entry of the list has; load with no filter first.
+    // The lowest positive code that no entry of the list has and whose client folder holds no file; load with no
+    // filter first. A folder left behind by an old client is never handed to a new one with its recordings.
     int NextFreeCode() const;
 
     int InsertClient(const PacienteRecord& record);  // appends a row; 1, or 0 after telling the user
@@ -93,7 +101,7 @@ public:
     // Removes a row, chosen as for UpdateClient, and packs the table; 1, or -1 on failure.
     int DeleteClient(int recordNumber);
 
-    std::filesystem::path TablePath() const { return m_dataRoot / m_fileName; }
+    std::filesystem::path TablePath() const;  // as the disk spells it
 
     // Test seams: where rewritten tables go, and how long a writer waits for another one to finish.
     void SetWriterFactory(TableWriterFactory factory) { m_writerFactory = std::move(factory); }
@@ -106,6 +114,8 @@ private:
     bool saveTable(const DbfTable& table);
     bool appendEntry(const DbfTable& table, const std::array<int, 11>& columns);
     void showNoMemory() noexcept;
+    int lowestCodeNotListed(int from) const;
+    bool clientFolderHoldsFiles(int code) const;
     template <class Change>
     bool changeTable(Change&& change);
 
@@ -115,4 +125,5 @@ private:
     std::vector<PacienteEntry> m_entries;  // in the order read
     TableWriterFactory m_writerFactory = openReplacingWriter;
     std::chrono::milliseconds m_lockWait{10000};
+    std::filesystem::path m_readOnlyToldFor;  // the mismatched table last loaded, once told so
 };

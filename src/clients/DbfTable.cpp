@@ -6,8 +6,8 @@
 #include <fstream>
 
 #include "TableFileWriter.h"
-#include "store/Assert.h"
-#include "store/ByteOrder.h"
+#include "base/Assert.h"
+#include "base/ByteOrder.h"
 
 namespace {
 
@@ -123,18 +123,23 @@ DbfOpenResult DbfTable::fromBytes(std::vector<std::uint8_t> bytes) {
     if (headerLength < kHeaderSize + 1) return damaged("the header length is too small");
     if (headerLength > bytes.size()) return damaged("the header length runs past the end of the file");
     if (recordLength < 1) return damaged("the record length is zero");
-    if (recordCount > 0x7FFFFFFF || recordCount * recordLength > bytes.size() - headerLength) {
-        return damaged("the record count is larger than the file");
-    }
+    // The rows end with the end byte or without it; any other size means the header miscounts its rows, and the
+    // whole rows actually there are what is read.
+    const std::uint64_t body = bytes.size() - headerLength;
+    const std::uint64_t counted = recordCount * recordLength;
+    const bool sizeMatches = body == counted || (body == counted + 1 && bytes.back() == kFileEnd);
+    const std::uint64_t rows = sizeMatches ? recordCount : body / recordLength;
+    if (rows > 0x7FFFFFFF) return damaged("the file holds more rows than a table can");
 
     DbfTable table;
     table.m_recordLength = static_cast<int>(recordLength);
-    table.m_recordCount = static_cast<int>(recordCount);
+    table.m_recordCount = static_cast<int>(rows);
+    table.m_sizeMatchesHeader = sizeMatches;
     if (const std::string_view problem = table.readDescriptors(bytes, headerLength); !problem.empty()) {
         return damaged(problem);
     }
     const auto recordsBegin = bytes.begin() + static_cast<std::ptrdiff_t>(headerLength);
-    table.m_records.assign(recordsBegin, recordsBegin + static_cast<std::ptrdiff_t>(recordCount * recordLength));
+    table.m_records.assign(recordsBegin, recordsBegin + static_cast<std::ptrdiff_t>(rows * recordLength));
     bytes.resize(headerLength);
     table.m_header = std::move(bytes);
     table.top();
@@ -216,6 +221,9 @@ void DbfTable::pack() {
 
 bool DbfTable::write(TableFileWriter& writer, const DbfDate& date) const {
     std::vector<std::uint8_t> header = m_header;
+    // A table read with the memo flag in its version byte has no memo field (none is accepted) and no memo file;
+    // it is written back as what it is, a plain table.
+    header[0] = kVersionDbase3;
     header[kDateOffset] = static_cast<std::uint8_t>(std::clamp(date.year - 1900, 0, 255));
     header[kDateOffset + 1] = static_cast<std::uint8_t>(date.month);
     header[kDateOffset + 2] = static_cast<std::uint8_t>(date.day);

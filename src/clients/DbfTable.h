@@ -66,6 +66,10 @@ public:
     const DbfField& field(int index) const;
     int fieldIndex(std::string_view name) const noexcept;  // ignores case; -1 when there is no such field
     int recordLength() const noexcept { return m_recordLength; }
+    // False when the file holds other than the rows its header counts (an extra row another tool appended, or a
+    // file cut short). Such a table is read as far as its whole rows go but is never written back: a rewrite
+    // would lose the rows the header does not count.
+    bool sizeMatchesHeader() const noexcept { return m_sizeMatchesHeader; }
     int headerLength() const noexcept { return static_cast<int>(m_header.size()); }
 
     // Navigation. Records are numbered from 1; past the last one the table is at its end.
@@ -87,7 +91,8 @@ public:
     void appendBlank();  // adds an all-blank record at the end and moves to it
     void pack();         // removes every deleted record; the table moves to its top
 
-    // Writes the header (with this date and the record count), the records and the end byte, then commits.
+    // Writes the header (plain dBASE III version, this date and the record count), the records and the end byte,
+    // then commits.
     // Each part is its own write, so a writer can fail at any of them.
     bool write(TableFileWriter& writer, const DbfDate& date) const;
 
@@ -103,6 +108,7 @@ private:
     int m_recordCount = 0;
     std::vector<std::uint8_t> m_records;  // m_recordCount records of m_recordLength bytes
     int m_current = 1;
+    bool m_sizeMatchesHeader = true;
 };
 
 struct DbfOpenResult {

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <vector>
 
+#include "base/Assert.h"
 #include "f0/f0.h"
 #include "f0/rounding.h"
-#include "store/Assert.h"
 
 void correlateLags(const float* x, const float* y, int size, int count, float* out) {
     constexpr int kGroup = 16;

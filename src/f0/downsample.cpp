@@ -4,9 +4,9 @@
 #include <cmath>
 #include <new>
 
+#include "base/Assert.h"
 #include "f0/f0.h"
 #include "f0/rounding.h"
-#include "store/Assert.h"
 
 int downsampleFilterDesign(float sampFreq, int decimate, std::unique_ptr<DownsampleFilter>* filter) {
     SONALYS_ASSERT(filter);

@@ -11,9 +11,9 @@
 #include <system_error>
 #include <thread>
 
+#include "base/Assert.h"
 #include "f0/candidates.h"
 #include "f0/rounding.h"
-#include "store/Assert.h"
 
 // ---------------------------------------------------------------------------------------------------------------
 // Creation and parameters

@@ -6,7 +6,7 @@
 #include <new>
 #include <string>
 
-#include "store/Assert.h"
+#include "base/Assert.h"
 
 void f0Message(std::string_view message, int number, std::string_view text) {
     std::string line;

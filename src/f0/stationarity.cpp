@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <new>
 
+#include "base/Assert.h"
 #include "f0/f0.h"
 #include "f0/sigproc.h"
-#include "store/Assert.h"
 
 namespace {
 

@@ -5,12 +5,12 @@
 #include <istream>
 #include <system_error>
 
-#include "Assert.h"
 #include "FileLookup.h"
 #include "Prompt.h"
 #include "ReplacingFile.h"
 #include "SideFiles.h"
 #include "TextFormat.h"
+#include "base/Assert.h"
 
 namespace {
 

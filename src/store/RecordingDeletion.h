@@ -31,8 +31,9 @@ struct FileDeletion {
 inline constexpr std::array<FileDeletion, 3> kViewDeletesWv{{{"", true}, {"ddt", false}, {"mrk", false}}};
 inline constexpr std::array<FileDeletion, 4> kViewDeletesQv{
     {{"", true}, {"ddt", false}, {"txt", false}, {"mrk", false}}};
-// From the list, the sound, the notes and the date go; the labels stay.
-inline constexpr std::array<FileDeletion, 3> kListDeletes{{{"", true}, {"txt", true}, {"ddt", false}}};
+// From the list, the sound, the notes and the date go; the labels stay. As from the view, only a sound that
+// stays is reported: "Error deleting File!" speaks of the recording, not of its notes.
+inline constexpr std::array<FileDeletion, 3> kListDeletes{{{"", true}, {"txt", false}, {"ddt", false}}};
 
 // Deletes `set` for the sound `soundPath`, in order, showing "Error deleting File!" for each reported failure and
 // going on with the rest. Returns true when the sound is gone.

@@ -2,12 +2,12 @@
 
 #include <optional>
 
-#include "Assert.h"
 #include "DateFile.h"
 #include "FileLookup.h"
 #include "LoadedRecording.h"
 #include "Prompt.h"
 #include "TextFormat.h"
+#include "base/Assert.h"
 
 namespace fs = std::filesystem;
 

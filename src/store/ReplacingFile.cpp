@@ -7,10 +7,60 @@
 #if defined(_WIN32)
 #include <io.h>
 #else
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
+namespace fs = std::filesystem;
+
 namespace {
+
+// The file a chain of symbolic links ends at; a relative link is read from the link's own folder.
+fs::path followLinks(fs::path path) {
+    for (int hop = 0; hop < 40; ++hop) {
+        std::error_code error;
+        if (!fs::is_symlink(fs::symlink_status(path, error))) break;
+        fs::path next = fs::read_symlink(path, error);
+        if (error) break;
+        path = next.is_absolute() ? std::move(next) : path.parent_path() / next;
+    }
+    return path;
+}
+
+#if defined(_WIN32)
+bool isReadOnly(const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    return !error && (status.permissions() & fs::perms::owner_write) == fs::perms::none;
+}
+
+std::FILE* createTemporary(const fs::path& temporary, const fs::path&) { return _wfopen(temporary.c_str(), L"wbx"); }
+#else
+// No write bit at all is read-only even for the administrator, who passes every access test.
+bool isReadOnly(const fs::path& path) {
+    struct stat info {};
+    if (::stat(path.c_str(), &info) != 0) return false;
+    return (info.st_mode & 0222) == 0 || ::access(path.c_str(), W_OK) != 0;
+}
+
+// The temporary is made private and then given the old file's owner and mode, so its bytes are never readable
+// by more people than the old file's were.
+std::FILE* createTemporary(const fs::path& temporary, const fs::path& target) {
+    struct stat old {};
+    const bool replacing = ::stat(target.c_str(), &old) == 0;
+    const int descriptor = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, replacing ? 0600 : 0666);
+    if (descriptor < 0) return nullptr;
+    if (replacing) {
+        if (::fchown(descriptor, old.st_uid, old.st_gid) != 0)
+            (void)::fchown(descriptor, static_cast<uid_t>(-1), old.st_gid);
+        (void)::fchmod(descriptor, old.st_mode & 07777);
+    }
+    std::FILE* file = ::fdopen(descriptor, "wb");
+    if (file == nullptr) ::close(descriptor);
+    return file;
+}
+#endif
 
 bool flushToDisk(std::FILE* file) noexcept {
     if (std::fflush(file) != 0) return false;
@@ -23,18 +73,18 @@ bool flushToDisk(std::FILE* file) noexcept {
 
 }  // namespace
 
-ReplacingFile::ReplacingFile(std::filesystem::path target) : m_target(std::move(target)) {
+ReplacingFile::ReplacingFile(const fs::path& target) : m_target(followLinks(target)) {
+    if (isReadOnly(m_target)) {
+        m_failed = true;
+        return;
+    }
     // The temporary sits in the same folder so that the final rename never crosses file systems.
     for (int attempt = 0; attempt < 100 && m_file == nullptr; ++attempt) {
         m_temporary = m_target;
         m_temporary += ".new" + std::to_string(attempt);
         std::error_code error;
         if (std::filesystem::exists(m_temporary, error)) continue;
-#if defined(_WIN32)
-        m_file = _wfopen(m_temporary.c_str(), L"wbx");
-#else
-        m_file = std::fopen(m_temporary.c_str(), "wbx");
-#endif
+        m_file = createTemporary(m_temporary, m_target);
         if (m_file == nullptr && errno != EEXIST) break;
     }
     if (m_file == nullptr) m_failed = true;

@@ -1,5 +1,10 @@
 // Writes a file so that it is never seen half written: the bytes go to a temporary file beside the target, and
 // only a complete, flushed file is renamed over it. A failure at any step leaves the old file as it was.
+//
+// The new file takes the place of the old one in every way the user set up: it keeps the old file's permissions
+// (a client table kept private stays private) and, where the process may, its owner; a symbolic link is written
+// through, so the file it names is replaced and the link still shares it; and a file made read-only is refused
+// (the writer never opens), so the caller tells the user that it cannot be written.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +13,7 @@
 
 class ReplacingFile {
 public:
-    explicit ReplacingFile(std::filesystem::path target);
+    explicit ReplacingFile(const std::filesystem::path& target);
     ~ReplacingFile();  // removes the temporary file unless commit() succeeded
     ReplacingFile(const ReplacingFile&) = delete;
     ReplacingFile& operator=(const ReplacingFile&) = delete;

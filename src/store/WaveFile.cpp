@@ -6,14 +6,14 @@
 #include <new>
 #include <system_error>
 
-#include "Assert.h"
-#include "ByteOrder.h"
 #include "DateFile.h"
 #include "FileLookup.h"
 #include "FileTimes.h"
 #include "Prompt.h"
 #include "ReplacingFile.h"
 #include "TextFormat.h"
+#include "base/Assert.h"
+#include "base/ByteOrder.h"
 
 namespace {
 

@@ -91,6 +91,8 @@ double rmsDbBelowTone(const std::vector<double>& y) {
 
 }  // namespace
 
+// The phase check also rules out any delay: the forward-backward filtering adds none, and a single sample of
+// delay would turn the phase by 2 pi f / rate, far beyond the limit.
 // Tones from a tenth of the passband to its edge (0.9 of the lower Nyquist frequency) keep their level within 0.2 dB
 // and their frequency and phase, and nothing else comes out: for the upward conversions the tone near the edge puts
 // its images inside the output band, and they must be 75 dB down.
@@ -120,28 +122,5 @@ TEST(ConversionQuality, TonesAboveTheOutputNyquistFrequencyComeOut75DbDown) {
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.rates.from << " -> " << c.rates.to << " at " << c.frequency << " Hz");
         EXPECT_LT(rmsDbBelowTone(convertTones(c.rates, {{c.frequency, 0.0}})), -75.0);
-    }
-}
-
-// The forward-backward filtering adds no delay: the output matches the ideal at lag 0, not a sample either side.
-TEST(ConversionQuality, CrossCorrelationWithTheIdealPeaksAtLagZero) {
-    for (const Rates& rates : kConversions) {
-        SCOPED_TRACE(testing::Message() << rates.from << " -> " << rates.to);
-        std::vector<Tone> tones;
-        for (const double place : {0.05, 0.23, 0.41, 0.58, 0.77, 0.88}) {
-            tones.push_back({place * rates.lowerNyquist(), 3.0 * place});
-        }
-        const std::vector<double> y = convertTones(rates, tones);
-        const Span s = middle(y);
-        int best = 99;
-        double bestValue = -1e300;
-        for (int lag = -4; lag <= 4; ++lag) {
-            double sum = 0;
-            for (std::size_t i = s.first; i < s.last; ++i) {
-                sum += y[i] * toneSum(tones, (static_cast<double>(i) + lag) / rates.to);
-            }
-            if (sum > bestValue) best = lag, bestValue = sum;
-        }
-        EXPECT_EQ(best, 0);
     }
 }

@@ -43,18 +43,3 @@ TEST(RealFft, BinsMatchThePlainTransformAtEveryLengthUsed) {
         EXPECT_EQ(bins[static_cast<std::size_t>(size / 2)].imag(), 0.0f);
     }
 }
-
-TEST(RealFft, IsUnnormalisedAndReusableFrameAfterFrame) {
-    RealFft fft(512);
-    for (const float level : {1.0f, 3.0f}) {
-        for (float& v : fft.input()) v = level;
-        const auto bins = fft.transform();
-        EXPECT_FLOAT_EQ(bins[0].real(), 512.0f * level);  // the sum of the frame, not its mean
-        EXPECT_NEAR(std::abs(bins[5]), 0.0, 1e-3);
-    }
-}
-
-TEST(RealFft, AcceptsOnlyPowersOfTwo) {
-    for (int size : {2, 65536}) EXPECT_TRUE(RealFft::isValidSize(size)) << size;
-    for (int size : {1, 1000, 131072}) EXPECT_FALSE(RealFft::isValidSize(size)) << size;
-}

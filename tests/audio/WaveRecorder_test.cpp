@@ -12,7 +12,7 @@
 #include "TempDir.h"
 #include "audio/BasicWindows.h"
 #include "audio/CrashMarker.h"
-#include "store/ByteOrder.h"
+#include "base/ByteOrder.h"
 #include "store/TextFormat.h"
 
 namespace {

@@ -47,14 +47,15 @@ protected:
     void writeRows(const std::vector<std::vector<std::string>>& rows) {
         writeForeignTable(file(), kPacienteFields, rows);
     }
+    // Insert, update and delete, each refused: the user is told and nothing is written.
+    void refuseEveryChange() {
+        EXPECT_EQ(table.InsertClient(makeClient(9, "C")), 0);
+        table.UpdateClient(1, makeClient(1, "A"));
+        EXPECT_EQ(table.DeleteClient(1), -1);
+    }
     std::vector<int> codes() const {
         std::vector<int> result;
         for (int i = 0; i < table.Count(); ++i) result.push_back(table.EntryAt(i)->record.Codigo);
-        return result;
-    }
-    std::vector<std::string> names() const {
-        std::vector<std::string> result;
-        for (int i = 0; i < table.Count(); ++i) result.emplace_back(recordText(table.EntryAt(i)->record.Nome));
         return result;
     }
 };

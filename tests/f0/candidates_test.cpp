@@ -37,43 +37,6 @@ TEST(CrossCorrLow, AFlatWindowGivesNoCorrelationAndAPeriodicOneGivesOneAtItsPeri
     EXPECT_EQ(maxval, 1.0f);
 }
 
-TEST(CrossCorrHigh, OnlyTheNeighbourhoodsAreComputedAndWeakSignalsAreDamped) {
-    const int size = 40;
-    const int start0 = 10;
-    const int nlags0 = 50;
-    std::vector<float> data(size + start0 + nlags0 + 10);
-    for (std::size_t i = 0; i < data.size(); ++i) data[i] = static_cast<float>(static_cast<int>(i % 20) * 4 - 38);
-    std::vector<float> work(data.size() + kCorrelationSlack);
-    std::vector<float> correl(nlags0 + kCorrelationSlack, 9.0f);
-    float maxval = -1.0f;
-    ASSERT_EQ(crossCorrHigh(data.data(), work.data(), size, start0, nlags0, 7, &start0, 0, correl.data(), &maxval), 1);
-    for (int l = 0; l < nlags0; ++l) EXPECT_EQ(correl[l], 0.0f);
-    EXPECT_EQ(maxval, 0.0f);
-
-    const int locs[] = {20, 40};
-    ASSERT_EQ(crossCorrHigh(data.data(), work.data(), size, start0, nlags0, 7, locs, 2, correl.data(), &maxval), 1);
-    for (int l = 0; l < nlags0; ++l) {
-        const int lag = start0 + l;
-        const bool searched = (lag >= 17 && lag <= 23) || (lag >= 37 && lag <= 43);
-        if (!searched) {
-            EXPECT_EQ(correl[l], 0.0f) << lag;
-        }
-    }
-    // At the period the sum equals the window's energy e, so the value is e / sqrt(e * e + 10000).
-    double e = 0.0;
-    for (int i = 0; i < size; ++i) e += work[i] * work[i];
-    EXPECT_NEAR(correl[20 - start0], e / std::sqrt(e * e + 10000.0), 1e-6);
-    EXPECT_LT(correl[20 - start0], 1.0f);
-    EXPECT_EQ(maxval, std::max(correl[20 - start0], correl[40 - start0]));
-
-    // A location near the end is not pushed down: its neighbourhood runs past the last lag.
-    const int nearEnd[] = {start0 + nlags0 - 2};
-    std::fill(correl.begin(), correl.end(), 9.0f);
-    ASSERT_EQ(crossCorrHigh(data.data(), work.data(), size, start0, nlags0, 7, nearEnd, 1, correl.data(), &maxval), 1);
-    EXPECT_NE(correl[nlags0], 9.0f);
-    EXPECT_EQ(correl[nlags0 - 6], 0.0f);
-}
-
 TEST(GetPeaks, PlateausGiveTwoPeaksAndTheEndsGiveNone) {
     const float correl[] = {0.9f, 0.5f, 0.8f, 0.8f, 0.2f, 0.31f, 0.1f, 0.4f, 0.6f, 0.7f};
     float peaks[10];
@@ -105,15 +68,6 @@ TEST(RefinePeak, TheVertexMovesTheLagWithTheHalfAddedWhateverTheSign) {
     refinePeak(flat, 11, 0.001f, &lag, &peak);
     EXPECT_EQ(lag, 110);
     EXPECT_EQ(peak, static_cast<float>((1.0 - 110 * 0.001f) * 0.5f));
-}
-
-TEST(SortPeaks, OnlyTheBestComeFirstAndEqualPeaksKeepTheirOrder) {
-    float peaks[] = {0.2f, 0.9f, 0.5f, 0.9f, 0.7f};
-    int lags[] = {1, 2, 3, 4, 5};
-    sortPeaks(lags, peaks, 5, 2);
-    EXPECT_EQ(lags[0], 2);
-    EXPECT_EQ(lags[1], 4);
-    EXPECT_EQ(peaks[1], 0.9f);
 }
 
 TEST(GetCandidates, SilenceHasTheVoicelessCandidateAloneAndNoiseIsCappedAtNCands) {

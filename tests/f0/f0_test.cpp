@@ -9,12 +9,13 @@ TEST(F0Init, DerivedSizesAtTheSystemSettingsMatchTheTable) {
     struct Row {
         double rate;
         int frameStep, windowSize, firstLag, lastLag, nLags, lpcOrder, decimate, filterLength, framesPerBuff, buffStep,
-            buffSize;
+            buffSize, frameAlloc;
     };
+    // The ring holds 1.5 s of frames: the float step 245/22050 s lies just above 1/90, so 134 frames, not 135.
     const Row rows[] = {
-        {11025, 122, 83, 8, 184, 177, 13, 5, 55, 16, 1952, 2254},
-        {22050, 245, 165, 16, 368, 353, 24, 11, 111, 16, 3920, 4526},
-        {44100, 490, 331, 32, 735, 704, 46, 22, 221, 16, 7840, 9052},
+        {11025, 122, 83, 8, 184, 177, 13, 5, 55, 16, 1952, 2254, static_cast<int>(1.5 / float(122 / 11025.0))},
+        {22050, 245, 165, 16, 368, 353, 24, 11, 111, 16, 3920, 4526, 134},
+        {44100, 490, 331, 32, 735, 704, 46, 22, 221, 16, 7840, 9052, static_cast<int>(1.5 / float(490 / 44100.0))},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.rate);
@@ -31,6 +32,7 @@ TEST(F0Init, DerivedSizesAtTheSystemSettingsMatchTheTable) {
         EXPECT_EQ(t->framesPerBuff, row.framesPerBuff);
         EXPECT_EQ(t->buffStep, row.buffStep);
         EXPECT_EQ(t->buffSize, row.buffSize);
+        EXPECT_EQ(t->frameAlloc, row.frameAlloc);
         // The layers pass 1/90 s through six decimals: at 11025 Hz 122.5 samples would round to 123.
         EXPECT_EQ(f0CreateTracker(static_cast<int>(row.rate), 60, 1400, 90)->frameStep, row.frameStep);
     }
@@ -96,16 +98,6 @@ TEST(F0Init, AnLpcOrderAbove50IsLimitedWithAMessage) {
     EXPECT_EQ(capture.text(), "F0: Optimum order limited to 50\n");
 }
 
-TEST(F0Init, RingAndConvergenceSizesFollowTheFloatStep) {
-    // The step 245/22050 s stored as a float lies just above 1/90, so 1.5 s holds 134 frames, not 135.
-    const auto t = systemTracker(22050);
-    const float stepSec = static_cast<float>(245 / 22050.0);
-    EXPECT_EQ(t->frameAlloc, static_cast<int>(1.5 / stepSec));
-    EXPECT_EQ(t->frameAlloc, 134);
-    EXPECT_EQ(t->minConvFrames, 44);
-    EXPECT_EQ(t->maxConvFrames, 89);
-}
-
 using F0DeathTest = ::testing::Test;
 
 TEST_F(F0DeathTest, PreconditionsEndTheProgramNamingTheExpression) {
@@ -121,17 +113,6 @@ TEST_F(F0DeathTest, PreconditionsEndTheProgramNamingTheExpression) {
     const float sample = 0.0f;
     EXPECT_DEATH(f0Process(t.get(), &sample, 0), "nData > 0");
     EXPECT_DEATH(f0GetOutput(t.get(), t->nOutput), "0 <= idx && idx < f0Obj->nOutput");
-}
-
-TEST(F0Process, ALastBufferWithoutFramesStillReleasesWhatIsPending) {
-    auto t = systemTracker(22050);
-    const std::vector<float> data = sine(22050, 150, 0.5);
-    ASSERT_EQ(f0Process(t.get(), data.data(), t->buffSize), 1);
-    EXPECT_EQ(f0NumOutput(t.get()), 0);  // 16 pending frames are fewer than minConvFrames
-    EXPECT_EQ(t->nPending, 16);
-    ASSERT_EQ(f0Process(t.get(), data.data() + t->buffStep, t->tailSize), 1);
-    EXPECT_EQ(f0NumOutput(t.get()), 16);
-    EXPECT_NEAR(f0GetOutput(t.get(), 8).f0, 150.0f, 1.5f);
 }
 
 TEST(F0Process, AShortFirstBufferIsTheLastAndReleasesEveryFrameOldestFirst) {
@@ -160,116 +141,6 @@ TEST(F0Process, TheRingGrowsSixTimesAtMostWhenConvergenceIsLate) {
     int count = 1;
     for (F0Frame* f = t->head->next; f != t->head; f = f->next) ++count;
     EXPECT_EQ(count, 7 * t->frameAlloc);
-}
-
-// --- The path search ---
-
-namespace {
-
-// Frames made by hand for the path search: each a list of (lag, cost) candidates.
-struct HandRing {
-    std::unique_ptr<F0Obj> t = systemTracker(22050);
-    std::vector<F0Frame*> frames;  // oldest first, linked after t->curFrm as processed frames
-
-    F0Frame* add(std::vector<F0Cand> cands) {
-        F0Frame* frm = frameAdvance(&t->curFrm);
-        for (std::size_t i = 0; i < cands.size(); ++i) frm->cands[i] = cands[i];
-        frm->nCands = static_cast<int>(cands.size());
-        frames.push_back(frm);
-        ++t->nPending;
-        return frm;
-    }
-};
-
-}  // namespace
-
-TEST(F0PathSearch, TransitionCostsFollowTheVoicingOfBothEnds) {
-    HandRing ring;
-    F0Obj& t = *ring.t;
-    const F0Stat stat{0.25f, 100.0f, 4.0f};
-    F0Frame* prev = ring.add({{100, 0.5f, 0}, {-1, 0.25f, 0}});
-    F0Frame* cur = ring.add({{200, 0.0f, 0}, {-1, 1.0f, 0}});
-    f0DpStep(&t, stat, cur, prev);
-    // Voiced after voiced, one octave up: double_cost plus the distance of log(2) from the float log(2).
-    const float r = static_cast<float>(std::log(2.0));
-    const float octave = static_cast<float>(0.35f + std::fabs(r - 0.6931471824645996)) * t.freqWeightScaled;
-    const float fromVoiceless = 0.25f * 0.5f + 0.005f + 0.5f / 4.0f;
-    const float fromVoiced = 0.25f * 0.5f + 0.005f + 0.5f * 4.0f;
-    const float viaVoiced = octave + 0.5f;
-    const float viaVoiceless = fromVoiceless + 0.25f;
-    EXPECT_EQ(cur->cands[0].cost, std::min(viaVoiced, viaVoiceless));
-    EXPECT_EQ(cur->cands[0].prevIdx, viaVoiced < viaVoiceless ? 0 : 1);
-    EXPECT_EQ(cur->cands[1].cost, 1.0f + std::min(fromVoiced + 0.5f, 0.0f + 0.25f));
-    EXPECT_EQ(cur->cands[1].prevIdx, 1);
-}
-
-TEST(F0PathSearch, TiesGoToTheLowestIndexAndAFirstFrameKeepsItsCosts) {
-    HandRing ring;
-    F0Frame* first = ring.add({{100, 0.5f, 9}, {-1, 0.2f, 9}});
-    f0DpStep(ring.t.get(), F0Stat{}, first, framePrev(first));  // the previous frame has no candidates
-    EXPECT_EQ(first->cands[0].cost, 0.5f);
-    EXPECT_EQ(first->cands[0].prevIdx, 0);
-    EXPECT_EQ(first->cands[1].prevIdx, 0);
-    F0Frame* next = ring.add({{-1, 0.0f, 0}});
-    first->cands[0] = {-1, 0.2f, 0};  // two voiceless predecessors of equal cost
-    f0DpStep(ring.t.get(), F0Stat{}, next, first);
-    EXPECT_EQ(next->cands[0].prevIdx, 0);
-    EXPECT_EQ(next->cands[0].cost, 0.2f);
-}
-
-TEST(F0PathSearch, ConvergenceIsFoundWhereAllPathsMeet) {
-    HandRing ring;
-    F0Obj& t = *ring.t;
-    t.minConvFrames = 3;
-    // Frame 0 is head; both candidates of frame 2 lead back to candidate 1 of frame 1.
-    ring.add({{100, 0, 0}, {-1, 0, 0}});
-    ring.add({{100, 0, 0}, {-1, 0, 0}});
-    F0Frame* newest = ring.add({{100, 2, 1}, {-1, 1, 1}});
-    F0Frame* conv = nullptr;
-    int path = -1;
-    ASSERT_EQ(f0FindConverged(&t, newest, 0, &conv, &path), 1);
-    EXPECT_EQ(conv, ring.frames[1]);
-    EXPECT_EQ(path, 1);
-    // With isLast the newest frame's best candidate starts the path; no merge is looked for.
-    ASSERT_EQ(f0FindConverged(&t, newest, 1, &conv, &path), 1);
-    EXPECT_EQ(conv, newest);
-    EXPECT_EQ(path, 1);
-    // Too few pending frames: nothing yet.
-    t.minConvFrames = 4;
-    EXPECT_EQ(f0FindConverged(&t, newest, 0, &conv, &path), 0);
-}
-
-TEST(F0PathSearch, PathsMeetingAtHeadReleaseOneFrameAndLateOnesAreForced) {
-    HandRing ring;
-    F0Obj& t = *ring.t;
-    t.minConvFrames = 1;
-    ring.add({{100, 0, 0}, {-1, 0, 0}});
-    F0Frame* newest = ring.add({{100, 5, 0}, {-1, 3, 1}});  // paths part at frame 1, meet nowhere else
-    F0Frame* conv = nullptr;
-    int path = -1;
-    t.maxConvFrames = 3;
-    EXPECT_EQ(f0FindConverged(&t, newest, 0, &conv, &path), 0);
-    t.maxConvFrames = 2;
-    ASSERT_EQ(f0FindConverged(&t, newest, 0, &conv, &path), 1);
-    EXPECT_EQ(conv, newest);
-    EXPECT_EQ(path, 1);
-
-    HandRing meeting;
-    meeting.t->minConvFrames = 1;
-    meeting.add({{100, 0, 0}, {-1, 0, 0}});
-    F0Frame* last = meeting.add({{100, 5, 1}, {-1, 3, 1}});
-    ASSERT_EQ(f0FindConverged(meeting.t.get(), last, 0, &conv, &path), 1);
-    EXPECT_EQ(conv, meeting.t->head);
-}
-
-TEST(F0PathSearch, RefineLagTakesTheParabolaVertexExceptAtTheEnds) {
-    const float correl[] = {0.0f, 0.25f, 1.0f, 0.5f, 0.9f};
-    // Lag 12 with firstLag 10: y0 0.25, y1 1, y2 0.5; the vertex lies (y0 - y2)/d = 0.1 above the lag.
-    EXPECT_NEAR(f0RefineLag(correl, 12, 10, 14), 12.1, 1e-5);
-    EXPECT_EQ(f0RefineLag(correl, 10, 10, 14), 10.0f);
-    EXPECT_EQ(f0RefineLag(correl, 14, 10, 14), 14.0f);
-    const float flat[] = {1.0f, 1.0f, 1.0f};
-    EXPECT_EQ(f0RefineLag(flat, 6, 5, 9), 6.0f);
 }
 
 TEST(F0Rounding, HalvesGoAwayFromZeroAndTruncationTowardIt) {

@@ -38,24 +38,6 @@ TEST(Stationarity, AnOnsetRaisesTheRmsRatio) {
     EXPECT_NEAR(ratio(soft, tone), 10.0f, 0.1f);
 }
 
-TEST(Stationarity, TheRingKeepsTheNewestAndHandsOutTheOldestWhenFull) {
-    auto t = systemTracker(22050);
-    ASSERT_EQ(windStatInit(t.get(), 2), 1);
-    float autoc[BIGSORD + 1] = {};
-    float err = 0.0f, rms = 0.0f;
-    const float first[BIGSORD + 1] = {1.0f, 0.5f};
-    const float second[BIGSORD + 1] = {1.0f, 0.25f};
-    const float third[BIGSORD + 1] = {1.0f, 0.125f};
-    windStatStore(t.get(), first, t->lpcOrder, 1.0f, 10.0f);
-    EXPECT_EQ(windStatOldest(t.get(), autoc, t->lpcOrder, &err, &rms), 0);  // not full yet
-    windStatStore(t.get(), second, t->lpcOrder, 2.0f, 20.0f);
-    windStatStore(t.get(), third, t->lpcOrder, 3.0f, 30.0f);
-    ASSERT_EQ(windStatOldest(t.get(), autoc, t->lpcOrder, &err, &rms), 1);
-    EXPECT_EQ(autoc[1], 0.25f);
-    EXPECT_EQ(err, 2.0f);
-    EXPECT_EQ(rms, 20.0f);
-}
-
 TEST(Stationarity, ASpectrumMeasuredAgainstItselfHasAnItakuraRatioOfOne) {
     // The inverse filter of a window's own LPC leaves exactly its residual: the ratio is 1 and dist is 0.2.
     SigprocCache cache;

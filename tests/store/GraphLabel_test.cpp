@@ -8,17 +8,6 @@
 
 namespace {
 
-GraphLabel label(std::int32_t viewFirst, std::int32_t viewLast, std::int32_t textFirst, std::int32_t textLast,
-                 std::string text) {
-    GraphLabel l;
-    l.ViewFirst = viewFirst;
-    l.ViewLast = viewLast;
-    l.TextFirst = textFirst;
-    l.TextLast = textLast;
-    l.Text = std::move(text);
-    return l;
-}
-
 GraphLabelTable readText(const std::string& text) {
     std::istringstream in(text);
     GraphLabelTable table;
@@ -28,32 +17,14 @@ GraphLabelTable readText(const std::string& text) {
 
 }  // namespace
 
-TEST(ReadLabelToken, DoubleSemicolonEndsATokenAndASingleOneBelongsToIt) {
-    std::istringstream in("5;;a;b;;x;;;;7;;abc");
-    std::string token;
-    EXPECT_EQ(ReadLabelToken(token, in), 1);
-    EXPECT_EQ(token, "5");  // one character is a token
-    EXPECT_EQ(ReadLabelToken(token, in), 1);
-    EXPECT_EQ(token, "a;b");
-    EXPECT_EQ(ReadLabelToken(token, in), 1);
-    EXPECT_EQ(token, "x");
-    // An empty token stops at once, its second semicolon left to begin the next token.
-    EXPECT_EQ(ReadLabelToken(token, in), 0);
-    EXPECT_EQ(ReadLabelToken(token, in), 1);
-    EXPECT_EQ(token, ";7");
-    EXPECT_EQ(ReadLabelToken(token, in), 0);  // cut short by the end of the file
-    EXPECT_EQ(token, "");
-    EXPECT_EQ(ReadLabelToken(token, in), 0);
-}
-
 TEST(LabelFile, LabelsAreWrittenAsTokensWithoutTheFreedOnesAndReadBack) {
     TempDir dir;
     FakePrompt prompt;
     GraphLabelTable table;
-    table.add(label(0, 22050, 4410, 4470, "x;y"));
-    table.add(label(5, 6, 7, 8, "freed"));
-    table.add(label(0, 100, 30, 40, "end;"));
-    table.add(label(0, 100, 50, 60, "z"));
+    table.add(GraphLabel{0, 22050, 4410, 4470, "x;y"});
+    table.add(GraphLabel{5, 6, 7, 8, "freed"});
+    table.add(GraphLabel{0, 100, 30, 40, "end;"});
+    table.add(GraphLabel{0, 100, 50, 60, "z"});
     table[1].Free = 1;
     ASSERT_EQ(table.WriteLabelFile(dir / "wv001.wav", prompt), 1);
     const std::string written = "3;;0;;22050;;4410;;4470;;x;y;;0;;100;;30;;40;;end;;;0;;100;;50;;60;;z;;";
@@ -69,8 +40,8 @@ TEST(LabelFile, LabelsAreWrittenAsTokensWithoutTheFreedOnesAndReadBack) {
 
     for (int i : {0, 2, 3}) table[i].Free = 1;
     ASSERT_EQ(table.WriteLabelFile(dir / "wv001.wav", prompt), 1);
-    EXPECT_EQ(dir.read("wv001.mrk"), written);        // no label left: the old file stays
-    EXPECT_EQ(table.add(label(0, 0, 0, 0, "e")), 0);  // the first freed slot is reused
+    EXPECT_EQ(dir.read("wv001.mrk"), written);             // no label left: the old file stays
+    EXPECT_EQ(table.add(GraphLabel{0, 0, 0, 0, "e"}), 0);  // the first freed slot is reused
     EXPECT_TRUE(prompt.shown.empty());
     EXPECT_EQ(table.WriteLabelFile(dir / "gone/wv001.wav", prompt), 0);
     EXPECT_EQ(prompt.shown, std::vector<std::string>{"Error saving File!"});
@@ -82,9 +53,7 @@ TEST(LabelFile, ShortOrOverfullFilesNeverOverrunTheTable) {
     // Two labels counted, the second cut short: it is in use, with what could be read.
     const GraphLabelTable cut = readText("2;;1;;2;;3;;4;;Hi;;5;;6");
     ASSERT_EQ(cut.count(), 2);
-    GraphLabel first = label(1, 2, 3, 4, "Hi");
-    first.Free = 0;
-    EXPECT_EQ(cut[0], first);
+    EXPECT_EQ(cut[0], (GraphLabel{1, 2, 3, 4, "Hi", 0, 0}));
     EXPECT_EQ(cut[1].Free, 0);
     EXPECT_EQ(cut[1].ViewFirst, 5);
     EXPECT_EQ(cut[1].ViewLast, 0);
@@ -102,8 +71,8 @@ TEST(LabelFile, ShortOrOverfullFilesNeverOverrunTheTable) {
     EXPECT_EQ(readText(std::string("1;;0;;0;;0;;0;;ab\0cd;;", 22))[0].Text, "ab");
 
     GraphLabelTable table;
-    for (int i = 0; i < kGraphLabelSlots; ++i) ASSERT_EQ(table.add(label(0, 0, i, i, "n")), i);
-    EXPECT_EQ(table.add(label(0, 0, 0, 0, "one too many")), -1);
+    for (int i = 0; i < kGraphLabelSlots; ++i) ASSERT_EQ(table.add(GraphLabel{0, 0, i, i, "n"}), i);
+    EXPECT_EQ(table.add(GraphLabel{0, 0, 0, 0, "one too many"}), -1);
 
     GraphLabelTable absent;
     absent.ReadLabelFile("/nonexistent/wv001.wav");

@@ -21,56 +21,53 @@ void makeRecording(const TempDir& root, const std::string& stem) {
 
 }  // namespace
 
-TEST(DeleteFromView, WvKeepsItsNotesQvLosesThemAndOtherFilesGoByPath) {
+// From the view a wv recording keeps its notes and a qv one loses them; from the list both keep their labels.
+// Only a sound that stays is reported: a side file that cannot go is passed over in silence. Immutable files
+// resist even the superuser.
+TEST(DeleteRecording, EachWayRemovesItsOwnFilesAndReportsOnlyASoundThatStays) {
+    const std::string confirm(kConfirmDeleteRecording);
+    const struct {
+        bool fromList;
+        const char* stem;
+        const char* stuck;
+        std::vector<std::string> shown;
+        std::set<std::string> left;
+    } cases[] = {
+        {false, "wv004", "", {}, {"wv004.txt", "wv004.bkp", "wv004.rtf"}},
+        {false, "qv004", "", {}, {"qv004.bkp", "qv004.rtf"}},
+        {true, "WV004", "", {confirm}, {"WV004.mrk", "WV004.bkp", "WV004.rtf"}},  // copied from Windows
+        {true, "qv004", "", {confirm}, {"qv004.mrk", "qv004.bkp", "qv004.rtf"}},
+        {false, "wv004", "wv004.wav", {"Error deleting File!"}, {"wv004.wav", "wv004.txt", "wv004.bkp", "wv004.rtf"}},
+        {true, "wv004", "wv004.txt", {confirm}, {"wv004.txt", "wv004.mrk", "wv004.bkp", "wv004.rtf"}},
+    };
+    for (const auto& c : cases) {
+        TempDir root;
+        FakePrompt prompt;
+        makeRecording(root, std::string("pac003/") + c.stem);
+        const std::string stuck = quoted(root / "pac003" / c.stuck);
+        if (*c.stuck && runCommand("chattr +i " + stuck + " 2>/dev/null").exitCode != 0) continue;
+        const bool wv = c.stem[0] == 'w' || c.stem[0] == 'W';
+        if (c.fromList) {
+            DeleteRecordingFilesFromList({root.path(), 3}, 4, wv ? FileKind::WvWithDate : FileKind::QvWithDate, prompt);
+        } else {
+            DeleteRecordingFilesFromView({root.path(), 3}, 4, root / "pac003/wv004.wav", prompt);
+        }
+        if (*c.stuck) runCommand("chattr -i " + stuck);
+        EXPECT_EQ(prompt.shown, c.shown) << c.stem << c.stuck;
+        EXPECT_EQ(filesIn(root / "pac003"), c.left) << c.stem << c.stuck;
+    }
+}
+
+// Asking first, and refusing a recording sent to backup, are checked where the recording list dialog deletes.
+TEST(DeleteRecording, OutsideTheClientsTheFilesGoByTheSoundsPath) {
     TempDir root;
     FakePrompt prompt;
-    makeRecording(root, "pac001/wv001");
-    makeRecording(root, "pac001/qv002");
-    EXPECT_TRUE(DeleteRecordingFilesFromView({root.path(), 1}, 1, root / "pac001/wv001.wav", prompt));
-    EXPECT_TRUE(DeleteRecordingFilesFromView({root.path(), 1}, 2, root / "pac001/qv002.wav", prompt));
-    EXPECT_EQ(filesIn(root / "pac001"),
-              (std::set<std::string>{"wv001.txt", "wv001.bkp", "wv001.rtf", "qv002.bkp", "qv002.rtf"}));
-
     root.touch({"Other Files/Take One.WAV", "Other Files/Take One.ddt", "Other Files/Take One.mrk",
                 "Other Files/Take One.txt"});
     EXPECT_TRUE(
         DeleteRecordingFilesFromView({root.path(), OutsideClientCode}, 5, root / "Other Files/Take One.WAV", prompt));
     EXPECT_EQ(filesIn(root / "Other Files"), std::set<std::string>{"Take One.txt"});
     EXPECT_TRUE(prompt.shown.empty());
-}
-
-TEST(DeleteFromList, SoundNotesAndDateGoTheLabelsStayAndABackupIsRefused) {
-    TempDir root;
-    FakePrompt prompt;
-    makeRecording(root, "pac002/WV001");  // copied from Windows
-    makeRecording(root, "pac002/qv002");
-    prompt.answers = {false, true, true};
-    EXPECT_FALSE(DeleteRecordingFilesFromList({root.path(), 2}, 1, FileKind::WvWithDate, prompt));
-    EXPECT_EQ(filesIn(root / "pac002").size(), 12u);  // No: nothing happens
-    EXPECT_TRUE(DeleteRecordingFilesFromList({root.path(), 2}, 1, FileKind::WvWithoutDate, prompt));
-    EXPECT_TRUE(DeleteRecordingFilesFromList({root.path(), 2}, 2, FileKind::QvWithDate, prompt));
-    EXPECT_EQ(filesIn(root / "pac002"),
-              (std::set<std::string>{"WV001.mrk", "WV001.bkp", "WV001.rtf", "qv002.mrk", "qv002.bkp", "qv002.rtf"}));
-    EXPECT_EQ(prompt.shown, std::vector<std::string>(3, std::string(kConfirmDeleteRecording)));
-
-    prompt.shown.clear();
-    EXPECT_FALSE(DeleteRecordingFilesFromList({root.path(), 2}, 1, FileKind::SentToBackup, prompt));
-    EXPECT_EQ(prompt.shown, std::vector<std::string>{"This file was send to Backup!\nIt´s necessary to attach backup "
-                                                     "files to access this file!"});
-    EXPECT_EQ(filesIn(root / "pac002").size(), 6u);
-}
-
-TEST(DeleteFromView, ASoundThatCannotBeDeletedIsReportedAndItsSideFilesGoAnyway) {
-    TempDir root;
-    FakePrompt prompt;
-    makeRecording(root, "pac003/wv004");
-    const std::string sound = quoted(root / "pac003/wv004.wav");  // immutable: not even the superuser deletes it
-    if (runCommand("chattr +i " + sound + " 2>/dev/null").exitCode != 0) GTEST_SKIP() << "no immutable files here";
-    const bool deleted = DeleteRecordingFilesFromView({root.path(), 3}, 4, root / "pac003/wv004.wav", prompt);
-    runCommand("chattr -i " + sound);
-    EXPECT_FALSE(deleted);
-    EXPECT_EQ(prompt.shown, std::vector<std::string>{"Error deleting File!"});
-    EXPECT_EQ(filesIn(root / "pac003"), (std::set<std::string>{"wv004.wav", "wv004.txt", "wv004.bkp", "wv004.rtf"}));
 }
 
 TEST(DeleteClient, WildcardsRemoveTheirFilesInAnyCase) {

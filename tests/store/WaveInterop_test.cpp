@@ -7,7 +7,6 @@
 #include "FakePrompt.h"
 #include "RunCommand.h"
 #include "TempDir.h"
-#include "WaveBytes.h"
 #include "store/OpenOtherFile.h"
 #include "store/WaveFile.h"
 
@@ -87,43 +86,14 @@ TEST_F(WaveInterop, SoxFilesAtEveryRateWidthAndLayoutAreReadOrRefusedByTheRules)
             }
         }
     }
-}
-
-TEST_F(WaveInterop, ListChunksAndChunksAfterTheDataArePassedOver) {
-    ASSERT_TRUE(soxSynth(22050, 1, 16, quoted(dir / "plain.wav")));
-    const std::string bytes = dir.read("plain.wav");
-    const std::size_t dataAt = bytes.find("data");
-    ASSERT_NE(dataAt, std::string::npos);
-    using namespace wavebytes;
-    const std::string list = chunk("LIST", "INFOINAM" + le32(6) + "vowel" + std::string(1, '\0'));
-    dir.write("extra.wav", riff(bytes.substr(12, dataAt - 12) + list + bytes.substr(dataAt) + chunk("cue ", le32(0))));
-    const std::vector<std::int16_t> decoded = soxDecode16(dir / "extra.wav");
-    ASSERT_EQ(decoded, soxDecode16(dir / "plain.wav"));  // sox agrees it is the same sound
-    const WaveLoadResult load = WaveLoad(dir / "extra.wav");
-    ASSERT_EQ(load.code, kWaveOk);
-    EXPECT_EQ(load.samples, decoded);
-
     // Writing to a pipe, sox cannot go back to fix the sizes and leaves a data chunk of about 2 GB.
     ASSERT_TRUE(soxSynth(22050, 1, 16, "-t wav -", " | cat > " + quoted(dir / "piped.wav")));
     EXPECT_EQ(WaveLoad(dir / "piped.wav").code, kWaveDataTruncated);
 }
 
-TEST_F(WaveInterop, SpeechFromEspeakOpensAsItIs) {
-    if (!toolAvailable("espeak-ng")) GTEST_SKIP() << "espeak-ng is not installed";
-    const auto file = dir / "speech.wav";
-    ASSERT_EQ(runCommand("espeak-ng -w " + quoted(file) + " 'The rainbow is a division of white light.'").exitCode, 0);
-    ASSERT_EQ(OpenOtherFile(
-                  recording, file, [] { return std::nullopt; }, prompt)
-                  .result,
-              OtherFileResult::Opened);
-    EXPECT_EQ(recording.format()->nSamplesPerSec, static_cast<std::uint32_t>(soxi("-r", file)));
-    EXPECT_EQ(loaded(recording), soxDecode16(file));
-    EXPECT_GT(recording.SampleCount(), 10000u);
-}
-
 TEST_F(WaveInterop, EveryFileOurWriterMakesReadsBackInSox) {
     std::mt19937 random(11);
-    std::vector<std::int16_t> samples(22050);
+    std::vector<std::int16_t> samples(100000);  // many copy blocks of the reader
     for (auto& s : samples) s = static_cast<std::int16_t>(random());
     for (const auto& [index, channels] : {std::pair{3, 1}, {5, 1}, {7, 1}, {5, 2}}) {
         WaveWriter writer;
@@ -140,5 +110,6 @@ TEST_F(WaveInterop, EveryFileOurWriterMakesReadsBackInSox) {
         EXPECT_EQ(soxi("-b", file), 16) << what;
         EXPECT_EQ(soxi("-s", file), static_cast<long>(samples.size()) / channels) << what;
         EXPECT_EQ(soxDecode16(file), samples) << what;
+        EXPECT_EQ(WaveLoad(file).samples, samples) << what;
     }
 }

@@ -15,7 +15,7 @@
 
 #include "FakePrompt.h"
 #include "TempDir.h"
-#include "store/ByteOrder.h"
+#include "base/ByteOrder.h"
 #include "store/RecordingFiles.h"
 #include "view/CAFView.h"
 
