@@ -9,7 +9,7 @@
 #include <ctime>
 #include <regex>
 
-#include "store/ByteOrder.h"
+#include "base/ByteOrder.h"
 
 namespace {
 
