@@ -550,5 +550,17 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Show the long-term average spectrum</source>
         <translation>Mostrar el espectro promedio a largo plazo (LTAS)</translation>
     </message>
+    <message>
+        <source>Min. Value: 50 Hz</source>
+        <translation>Valor mín.: 50 Hz</translation>
+    </message>
+    <message>
+        <source>Max. Value: 1200 Hz</source>
+        <translation>Valor máx.: 1200 Hz</translation>
+    </message>
+    <message>
+        <source>Min. Value &gt;= Max. Value</source>
+        <translation>Valor mín. &gt;= Valor máx.</translation>
+    </message>
 </context>
 </TS>

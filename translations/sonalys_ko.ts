@@ -550,5 +550,17 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Show the long-term average spectrum</source>
         <translation>장시간 평균 스펙트럼(LTAS) 표시</translation>
     </message>
+    <message>
+        <source>Min. Value: 50 Hz</source>
+        <translation>최솟값: 50 Hz</translation>
+    </message>
+    <message>
+        <source>Max. Value: 1200 Hz</source>
+        <translation>최댓값: 1200 Hz</translation>
+    </message>
+    <message>
+        <source>Min. Value &gt;= Max. Value</source>
+        <translation>최솟값 &gt;= 최댓값</translation>
+    </message>
 </context>
 </TS>
