@@ -562,5 +562,13 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Min. Value &gt;= Max. Value</source>
         <translation>Valor mín. &gt;= Valor máx.</translation>
     </message>
+    <message>
+        <source>Calculating F0...</source>
+        <translation>Calculando F0...</translation>
+    </message>
+    <message>
+        <source>Calculating Formants...</source>
+        <translation>Calculando formantes...</translation>
+    </message>
 </context>
 </TS>

@@ -562,5 +562,13 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Min. Value &gt;= Max. Value</source>
         <translation>최솟값 &gt;= 최댓값</translation>
     </message>
+    <message>
+        <source>Calculating F0...</source>
+        <translation>F0 계산 중...</translation>
+    </message>
+    <message>
+        <source>Calculating Formants...</source>
+        <translation>포먼트 계산 중...</translation>
+    </message>
 </context>
 </TS>

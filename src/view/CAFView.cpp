@@ -217,6 +217,7 @@ void CAFView::CloseRecording() {
         panel->Reset();
         panel->EnablePlay(false);
     }
+    invalidateCurves();
     clearReadOut();
     UpdateCommands();
 }
@@ -304,6 +305,7 @@ int CAFView::loadFileSteps(DisplayMode remembered) {
     m_wholeSpectrum.reset();
     m_spectrogramPanel->EnablePlay(true);
     m_spectrumPanel->EnablePlay(true);
+    invalidateCurves();
     RedrawAll();
     return 1;
 }
@@ -381,6 +383,9 @@ void CAFView::RedrawAll() {
     clearReadOut();
     if (m_displayMode == DisplayMode::FileSpectrogramMode && m_recording.hasSamples()) {
         computePicture();
+        ensureCurves();
+        drawOverlays();
+        update();
     } else if (m_displayMode == DisplayMode::FileSpectrumMode && m_recording.hasSamples()) {
         ensureSpectrum();
         rebuildPage();
@@ -513,7 +518,7 @@ void CAFView::rebuildPage(bool dropSelection) {
     }
     m_backBitmap.setDevicePixelRatio(ratio);
     // The graph's overlays (curves, labels) go over a copy; without them the two are one picture.
-    m_savedGraph = m_backBitmap;
+    drawOverlays();
     if (dropSelection) {
         m_dragging = false;
         m_hasSelection = false;

@@ -1,0 +1,115 @@
+// The F0 and formant curves of the main view: computed on demand on worker threads with the window kept alive,
+// equal to a single-threaded run, drawn over a copy of the page and forgotten with the samples. (That the
+// person's input waits meanwhile rests on the event loop's own exclusion of input, which the offscreen platform
+// cannot feed.)
+#include <atomic>
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+
+#include <QSignalSpy>
+#include <QTimer>
+
+#include "ViewFixtures.h"
+
+namespace {
+
+// Pixels of `colour` in the picture's part of `image`.
+int countInPicture(const CAFView& view, const QImage& image, QRgb colour) {
+    const QRect area = view.pictureDeviceRect();
+    int n = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x) n += image.pixel(x, y) == colour;
+    return n;
+}
+
+}  // namespace
+
+class ViewCurvesTest : public QObject {
+    Q_OBJECT
+private slots:
+    void curvesEqualASingleThreadedRunAndAreDrawnOverACopyOfThePage();
+    void curvesAreForgottenWhenTheRecordingCloses();
+    void workAsideKeepsTheEventLoopRunning();
+};
+
+void ViewCurvesTest::curvesEqualASingleThreadedRunAndAreDrawnOverACopyOfThePage() {
+    ClientRoot client;
+    const std::vector<std::int16_t> voice = sine(200.0, 22050, 3.0);
+    client.write("wv001.wav", waveBytes(voice, 22050));
+    FakePrompt prompt;
+    CAFView view(prompt);
+    showForScreen(view, QSize(1024, 768));
+    view.setCurrentClient(client.folder, "Client");
+    QCOMPARE(view.OpenRecording(0, 1), 1);
+    QSignalSpy busy(&view, &CAFView::busyText);
+
+    view.RedrawF0(true);
+    view.RedrawFormants(true);
+    QCOMPARE(busy.count(), 4);
+    QCOMPARE(busy.at(0).at(0).toString(), QString("Calculating F0..."));
+    QCOMPARE(busy.at(1).at(0).toString(), QString());
+    QCOMPARE(busy.at(2).at(0).toString(), QString("Calculating Formants..."));
+    F0Track single;
+    computeF0Curve(single, voice.data(), static_cast<int>(voice.size()), 22050, F0CurveSettings{60, 1400, 90, 1});
+    QVERIFY(view.f0Track().valid);
+    QCOMPARE(view.f0Track().values, single.values);
+    FakePrompt quiet;
+    FormantTracker tracker(quiet);
+    FormantTrack formants;
+    tracker.computeFormants(formants, voice, 22050);
+    QCOMPARE(view.formantTrack().count(), formants.count());
+    for (int i = 0; i < formants.count(); ++i) QCOMPARE(view.formantTrack().records[i].f2, formants.records[i].f2);
+
+    // A steady 200 Hz voice: dots in the F0 colour of the scheme over the copy, none on the page beneath.
+    const QRgb blue = qRgb(0, 0, 255);
+    QVERIFY(countInPicture(view, view.savedGraph(), blue) > countInPicture(view, view.backBitmap(), blue));
+    view.spectrogramSettings().colourScheme = 1;
+    view.ApplyPalette();
+    QVERIFY(countInPicture(view, view.savedGraph(), qRgb(255, 0, 0)) >
+            countInPicture(view, view.backBitmap(), qRgb(255, 0, 0)));
+    view.RedrawF0(false);
+    view.RedrawFormants(false);
+    QCOMPARE(view.savedGraph(), view.backBitmap());
+    QCOMPARE(busy.count(), 4);  // shown again later, nothing is computed twice
+    view.RedrawF0(true);
+    QCOMPARE(busy.count(), 4);
+    QVERIFY(prompt.shown.empty());
+}
+
+void ViewCurvesTest::curvesAreForgottenWhenTheRecordingCloses() {
+    ClientRoot client;
+    client.write("wv001.wav", waveBytes(sine(150.0, 11025, 1.0), 11025));
+    client.write("wv002.wav", waveBytes(sine(300.0, 11025, 1.0), 11025));
+    FakePrompt prompt;
+    CAFView view(prompt);
+    showForScreen(view, QSize(1024, 768));
+    view.setCurrentClient(client.folder, "Client");
+    QCOMPARE(view.OpenRecording(0, 1), 1);
+    view.RedrawFormants(true);
+    QVERIFY(view.f0Track().valid && view.formantTrack().valid);
+    // Opening another recording computes anew for its own samples, since the boxes are still checked.
+    const std::vector<float> first = view.f0Track().values;
+    QCOMPARE(view.OpenRecording(0, 2), 1);
+    QVERIFY(view.f0Track().valid);
+    QVERIFY(view.f0Track().values != first);
+    view.CloseRecording();
+    QVERIFY(!view.f0Track().valid && !view.formantTrack().valid);
+    QCOMPARE(view.f0Track().count(), 0);
+}
+
+void ViewCurvesTest::workAsideKeepsTheEventLoopRunning() {
+    std::atomic<bool> timerRan = false;
+    QTimer::singleShot(0, [&] { timerRan = true; });
+    bool sawTimer = false;
+    RunKeepingWindowAlive([&] {
+        // Only the window's own event loop can run the timer while this waits.
+        for (int i = 0; i < 500 && !timerRan; ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        sawTimer = timerRan;
+    });
+    QVERIFY(sawTimer);
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error, RunKeepingWindowAlive([] { throw std::runtime_error("failed"); }));
+}
+
+QTEST_MAIN(ViewCurvesTest)
+#include "ViewCurves_test.moc"
