@@ -570,5 +570,21 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Calculating Formants...</source>
         <translation>포먼트 계산 중...</translation>
     </message>
+    <message>
+        <source>F0 Setting...</source>
+        <translation>F0 설정...</translation>
+    </message>
+    <message>
+        <source>Min.:</source>
+        <translation>최소:</translation>
+    </message>
+    <message>
+        <source>Max:</source>
+        <translation>최대:</translation>
+    </message>
+    <message>
+        <source>Set the lowest and highest frequency of the F0 curve</source>
+        <translation>F0 곡선의 최저 및 최고 주파수 설정</translation>
+    </message>
 </context>
 </TS>

@@ -570,5 +570,21 @@ Please select the option 800 x 600, 1024 x 768 ou 1280 x 800 in the next screen!
         <source>Calculating Formants...</source>
         <translation>Calculando formantes...</translation>
     </message>
+    <message>
+        <source>F0 Setting...</source>
+        <translation>Configuração de F0...</translation>
+    </message>
+    <message>
+        <source>Min.:</source>
+        <translation>Mín.:</translation>
+    </message>
+    <message>
+        <source>Max:</source>
+        <translation>Máx.:</translation>
+    </message>
+    <message>
+        <source>Set the lowest and highest frequency of the F0 curve</source>
+        <translation>Definir a frequência mínima e máxima da curva de F0</translation>
+    </message>
 </context>
 </TS>

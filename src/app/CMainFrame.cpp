@@ -17,6 +17,7 @@
 #include "app/CAboutDlg.h"
 #include "app/CAbrirPaciente.h"
 #include "app/CAbrirSessao.h"
+#include "app/CConfF0.h"
 #include "app/CPaciente.h"
 #include "app/DesktopPrograms.h"
 #include "app/HelpBrowser.h"
@@ -73,6 +74,8 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     connect(this, &CMainFrame::recordingChosen, this, &CMainFrame::openChosenRecording);
     connect(this, &CMainFrame::recordingFileChosen, this, &CMainFrame::openChosenFile);
     connect(this, &CMainFrame::recordingDeleted, m_view, &CAFView::RecordingDeleted);
+    connect(m_view, &CAFView::busyText, this, &CMainFrame::ShowBusyText);
+    m_view->setF0RangeSource([this] { return f0Range; });
     createCommands();
     createToolBar();
     createStatusBar();
@@ -147,6 +150,7 @@ void CMainFrame::applyClientTypeRange() {
     } else {
         m_prompt.showOk(kUndefinedType);
     }
+    m_view->F0RangeChanged();
 }
 
 // Back to no client: the client commands go off and the view shows nothing.
@@ -332,6 +336,8 @@ void CMainFrame::createCommands() {
     QMenu* settings = addMenu(kMenuSettings);
     connect(addCommand(settings, kIdVolume, kCommandVolume, kTipVolume, nullptr), &QAction::triggered, this,
             &CMainFrame::volume);
+    connect(addCommand(settings, kIdF0Setting, kCommandF0Setting, kTipF0Setting, nullptr, idle), &QAction::triggered,
+            this, &CMainFrame::f0Setting);
     QMenu* language = settings->addMenu(QString());
     m_menus.push_back({language, kMenuLanguage});
     connect(language, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
@@ -443,6 +449,13 @@ QString CMainFrame::busyText() const { return m_busyText->isVisible() ? m_busyTe
 void CMainFrame::volume() {
     // No mixer of our own is up: the desktop's volume control takes over.
     if (!StartFirstProgram(VolumeControlPrograms(), m_app.startProgram)) m_prompt.showOk(kVolumeControlFailed);
+}
+
+void CMainFrame::f0Setting() {
+    CConfF0 box(f0Range, m_prompt, this);
+    if (box.exec() != QDialog::Accepted) return;
+    f0Range = box.range();
+    m_view->F0RangeChanged();
 }
 
 void CMainFrame::contents() {

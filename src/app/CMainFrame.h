@@ -124,6 +124,7 @@ public slots:
     void deleteClient();
     void openRecording();
     void volume();
+    void f0Setting();
     void contents();
     void about();
     void languageEnglish();
