@@ -218,6 +218,7 @@ void CAFView::CloseRecording() {
         panel->EnablePlay(false);
     }
     invalidateCurves();
+    m_f0Readout = 0.0f;
     clearReadOut();
     UpdateCommands();
 }
@@ -341,6 +342,8 @@ void CAFView::ShowSpectrumPage() {
 void CAFView::resetLivePage() {
     m_liveTrace.clear();
     m_liveColumn = 0;
+    m_liveF0Blocks = 0;
+    m_f0Readout = 0.0f;
     m_picture.resize(pictureDeviceRect().size());
     if (!isLiveMode(m_displayMode)) return;
     applyRate(rate());
@@ -359,6 +362,7 @@ void CAFView::DrawLiveBlock(std::span<const std::int16_t> block) {
             m_liveColumn = std::min(m_liveColumn + 1, m_picture.size().width() - 1);
         }
         m_liveTrace.addBlock(block);
+        if (m_showF0) estimateLiveF0();
     } else {
         // A short block is too short for a spectrum of its own: the start of the ring stands in for it.
         const std::span<const std::int16_t> ring = m_spectrogramObject.ring();

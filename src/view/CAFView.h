@@ -127,6 +127,11 @@ public:
     F0Range f0Range() const { return m_f0RangeSource ? m_f0RangeSource() : kStartF0Range; }
     // The F0 range changed: the curve and its scale are drawn again when shown.
     void F0RangeChanged();
+    // The numeric F0 read-out above the graph, for the play and record engines: `hz` in navy, blanked when it is 0
+    // (an unvoiced frame) or while the F0 curve is not shown. On the live spectrogram page the view itself writes
+    // the estimate of every fifth block while the F0 curve is shown.
+    void ShowF0Readout(float hz);
+    float f0Readout() const { return m_f0Readout; }
 
     // The dialog that asks how to fold a stereo file; tests put a scripted answer in its place.
     void setStereoChooser(StereoChooser chooser) { m_chooseStereo = std::move(chooser); }
@@ -220,6 +225,8 @@ private:
     void invalidateCurves();
     void drawOverlays();
     bool overlaysApply() const;
+    void drawCurves(QPainter& painter);
+    void estimateLiveF0();
 
     // The page drawn anew into the off-screen images; a redraw of the strip drops any selection.
     void rebuildPage(bool dropSelection = true);
@@ -299,6 +306,8 @@ private:
     bool m_showFormants = false;
     bool m_computingCurves = false;
     std::function<F0Range()> m_f0RangeSource;
+    float m_f0Readout = 0.0f;  // Hz; 0 shows a blank read-out
+    int m_liveF0Blocks = 0;    // live blocks since the last estimate
 
     QImage m_backBitmap;
     QImage m_savedGraph;

@@ -1,11 +1,14 @@
 // The F0 and formant curves of the main view: computed on demand on worker threads, and drawn over a copy of the
 // spectrogram page so that removing one is a copy of the page without them.
+#include <algorithm>
+
 #include <QPainter>
 #include <QThread>
 
 #include "controls/UiText.h"
 #include "view/CAFView.h"
 #include "view/DisplayModeRules.h"
+#include "view/GraphCaptions.h"
 #include "view/WaitCursor.h"
 
 void CAFView::RedrawF0(bool show) {
@@ -67,23 +70,56 @@ void CAFView::ensureCurves() {
     m_curvePrompt.flushTo(m_prompt);
 }
 
-// The page as rebuilt, with the shown curves over it: F0 with its scale on the right of the graph, and the formants
-// on the spectrogram's own frequency scale.
+void CAFView::ShowF0Readout(float hz) {
+    m_f0Readout = hz;
+    drawOverlays();
+    update();
+}
+
+// Every fifth live block the F0 of the ring's first 1024 samples goes to the read-out.
+void CAFView::estimateLiveF0() {
+    if (++m_liveF0Blocks <= 4) return;
+    m_liveF0Blocks = 0;
+    const std::span<const std::int16_t> ring = m_spectrogramObject.ring();
+    m_f0Readout = liveF0Value(ring.data(), static_cast<int>(std::min<std::size_t>(1024, ring.size())), rate());
+}
+
+namespace {
+
+// Where the "F" of the read-out stands: on the band of the captions, just above the time, so that the value ends
+// over the right end of the graph and clear of the time.
+QPoint f0ReadoutPoint(const ViewLayout& layout) { return QPoint(layout.graphRight() - 80, CaptionTop(layout) - 20); }
+
+}  // namespace
+
+// The page as rebuilt, with the overlays of the spectrogram page over it: the read-out, and the shown curves.
 void CAFView::drawOverlays() {
     m_savedGraph = m_backBitmap;
-    if (!overlaysApply() || m_computing || (!m_showF0 && !m_showFormants)) return;
+    if (!isSpectrogramPage(m_displayMode) || m_computing || (!m_showF0 && !m_showFormants)) return;
     QPainter painter(&m_savedGraph);
     painter.setTransform(m_layout.toWidget(QSizeF(size())));
+    if (m_showF0 && m_f0Readout > 0.0f) {
+        DrawF0Readout(painter, f0ReadoutPoint(m_layout), m_f0Readout, QColor::fromRgb(kTextRowColour));
+    } else {
+        BlankReadout(painter, f0ReadoutPoint(m_layout), QColor::fromRgb(kTextRowColour));
+    }
+    drawCurves(painter);
+}
+
+// F0 with its scale on the right of the graph, over the formants on the spectrogram's own frequency scale. The
+// scale stands on the live page too, before any samples.
+void CAFView::drawCurves(QPainter& painter) {
+    const bool samples = m_recording.hasSamples();
     const QRect graph = m_layout.pictureRect();
     const auto total = static_cast<std::int64_t>(m_recording.SampleCount());
     const int scheme = m_spectrogramSettings.colourScheme;
-    if (m_showFormants) {
+    if (m_showFormants && samples) {
         const double upperHz = m_spectrogramObject.sampleRate() * 0.5 / m_spectrogramObject.zoom();
         DrawFormants(painter, graph, m_formantTrack, total, upperHz, m_firstShown, m_lastShown, scheme, m_f0Track);
     }
     if (m_showF0) {
         const F0Range range = f0Range();
-        DrawF0(painter, graph, m_f0Track, total, m_firstShown, m_lastShown, range, scheme);
+        if (samples) DrawF0(painter, graph, m_f0Track, total, m_firstShown, m_lastShown, range, scheme);
         DrawF0Axis(painter, F0AxisX(m_layout.GraphLeft, m_layout.GraphWidth, m_layout.LargeLayout), m_layout.GraphTop,
                    m_layout.GraphHeight, range, scheme);
     }

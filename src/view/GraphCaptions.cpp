@@ -20,7 +20,6 @@ QFont font(const char* face, int pixels, bool bold) {
 QString text(std::string_view english) { return uiText(english); }
 
 // Where the caption row's texts start: 5 pixels into the row on the small layout, 20 on the large one.
-int captionTop(const ViewLayout& layout) { return layout.TitleTop + (layout.LargeLayout ? 20 : 5); }
 constexpr int kCaptionHeight = 25;
 constexpr int kLineHeight = 15;
 
@@ -71,13 +70,15 @@ void DrawGraphFrame(QPainter& painter, const ViewLayout& layout) {
     painter.restore();
 }
 
+int CaptionTop(const ViewLayout& layout) { return layout.TitleTop + (layout.LargeLayout ? 20 : 5); }
+
 void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mode, const QString& duration) {
     const double width = layout.pageSize().width();
     painter.save();
     painter.fillRect(QRectF(0, 0, width, layout.TitleTop + layout.TitleHeight), QColor::fromRgb(kTextRowColour));
     painter.setPen(Qt::black);
     painter.setFont(CaptionFont());
-    const int top = captionTop(layout);
+    const int top = CaptionTop(layout);
     const bool spectrogram = mode == DisplayMode::LiveSpectrogramMode || mode == DisplayMode::FileSpectrogramMode;
     painter.drawText(QRect(layout.GraphLeft - 80, top, 440, kCaptionHeight), Qt::AlignLeft | Qt::AlignVCenter,
                      text(spectrogram ? kSpectrogramCaption : kPowerSpectrumCaption));
@@ -91,7 +92,7 @@ void DrawFormatLine(QPainter& painter, const ViewLayout& layout, const QString& 
     painter.save();
     painter.setPen(Qt::black);
     painter.setFont(FormatLineFont());
-    painter.drawText(QRect(176 + layout.XOffset, captionTop(layout) + kCaptionHeight, 400, kLineHeight),
+    painter.drawText(QRect(176 + layout.XOffset, CaptionTop(layout) + kCaptionHeight, 400, kLineHeight),
                      Qt::AlignLeft | Qt::AlignVCenter, line);
     painter.restore();
 }
@@ -100,7 +101,7 @@ void DrawFileLine(QPainter& painter, const ViewLayout& layout, const QString& li
     painter.save();
     painter.setPen(Qt::black);
     painter.setFont(FormatLineFont());
-    painter.drawText(QRect(layout.graphRight() - 400, captionTop(layout) + kCaptionHeight, 400, kLineHeight),
+    painter.drawText(QRect(layout.graphRight() - 400, CaptionTop(layout) + kCaptionHeight, 400, kLineHeight),
                      Qt::AlignRight | Qt::AlignVCenter, text(kFileCaption) + QLatin1Char(' ') + line);
     painter.restore();
 }

@@ -1,6 +1,6 @@
 // Pictures of the spectrogram page of a speech recording with its F0 and formant curves, in the three colour
-// schemes at two screen sizes, written under the build tree for people to look at. Each is also checked for dots
-// of the scheme's F0 colour over the picture.
+// schemes at two screen sizes with an F0 read-out up, written under the build tree for people to look at. Each is also
+// checked for dots of the scheme's F0 colour over the picture.
 #include <QDir>
 #include <QTest>
 
@@ -34,6 +34,7 @@ void CurveScreenshotsTest::spectrogramWithCurvesInEachScheme() {
     QCOMPARE(view.OpenRecording(0, 1), 1);
     view.RedrawF0(true);
     view.RedrawFormants(true);
+    view.ShowF0Readout(123.45f);  // as a play shows it
     const QImage shot = view.grab().toImage();
     const QRgb f0 = F0DotColour(scheme).rgb();
     int dots = 0;

@@ -4,6 +4,7 @@
 // cannot feed.)
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <stdexcept>
 #include <thread>
 
@@ -11,6 +12,7 @@
 #include <QTimer>
 
 #include "ViewFixtures.h"
+#include "view/GraphCaptions.h"
 
 namespace {
 
@@ -30,6 +32,7 @@ class ViewCurvesTest : public QObject {
 private slots:
     void curvesEqualASingleThreadedRunAndAreDrawnOverACopyOfThePage();
     void curvesAreForgottenWhenTheRecordingCloses();
+    void liveEstimateOfEveryFifthBlockIsWrittenInNavyWhileF0IsShown();
     void workAsideKeepsTheEventLoopRunning();
 };
 
@@ -96,6 +99,33 @@ void ViewCurvesTest::curvesAreForgottenWhenTheRecordingCloses() {
     view.CloseRecording();
     QVERIFY(!view.f0Track().valid && !view.formantTrack().valid);
     QCOMPARE(view.f0Track().count(), 0);
+}
+
+void ViewCurvesTest::liveEstimateOfEveryFifthBlockIsWrittenInNavyWhileF0IsShown() {
+    FakePrompt prompt;
+    CAFView view(prompt);
+    showForScreen(view, QSize(800, 600));
+    view.ShowSpectrogramPage();  // nothing loaded: the live page at 11025 Hz
+    view.RedrawF0(true);
+    const QImage page = view.backBitmap();
+    QVERIFY(view.savedGraph() != page);  // the F0 scale stands before any samples
+    const std::vector<std::int16_t> tone = sine(200.0, 11025, 1.0);
+    for (int b = 0; b < 5; ++b) {
+        QCOMPARE(view.f0Readout(), 0.0f);
+        view.DrawLiveBlock(std::span<const std::int16_t>(tone).subspan(static_cast<std::size_t>(b) * 1024, 1024));
+    }
+    QVERIFY(std::abs(view.f0Readout() - 200.0f) < 5.0f);
+    // "F" 80 pixels left of the graph's right end and 20 above the time caption.
+    const QRect box = view.layout()
+                          .toWidget(QSizeF(view.size()))
+                          .mapRect(QRect(view.layout().graphRight() - 80, CaptionTop(view.layout()) - 22, 110, 20));
+    int navy = 0;
+    for (int y = box.top(); y <= box.bottom(); ++y)
+        for (int x = box.left(); x <= box.right(); ++x) navy += view.savedGraph().pixel(x, y) == kF0ReadoutColour;
+    QVERIFY(navy > 20);
+    view.ShowF0Readout(0.0f);
+    view.RedrawF0(false);
+    QCOMPARE(view.savedGraph(), view.backBitmap());
 }
 
 void ViewCurvesTest::workAsideKeepsTheEventLoopRunning() {
