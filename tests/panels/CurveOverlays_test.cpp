@@ -51,7 +51,6 @@ private slots:
     void rangeLimitsAreDrawnAndValuesJustOutsideAreNot();
     void anAllUnvoicedRecordingDrawsTheScaleAndNoDot();
     void scaleHasFiveLabelsUnder300PixelsAndNineFrom300();
-    void livePointReadsTheFrameOfItsSampleAndStandsLeftOfTheColumn();
     void formantsStandOnTheFrequencyScaleOnlyWhereTheVoiceIsVoiced();
     void refusedRangesGiveTheirMessageInOrder_data();
     void refusedRangesGiveTheirMessageInOrder();
@@ -66,8 +65,15 @@ void CurveOverlaysTest::f0DotStandsAtItsPercentageOfTheRangeAndUnvoicedFramesLea
     QCOMPARE(image.pixel(kGraph.x() + 100, 175), kGrey);  // the dot is 4 pixels high: 170 to 173
     QCOMPARE(image.pixel(kGraph.x() + 100, 168), kGrey);
     QCOMPARE(countColour(image, QRect(kGraph.x(), kGraph.y(), 50, 300), red), 0);
-    // Scheme 0 draws the same dots in blue.
-    QCOMPARE(drawnF0(trackOf([](int) { return 235.0f; }), 0).pixel(kGraph.x() + 101, 171), qRgb(0, 0, 255));
+    // The live dot: 200 frames over 20000 samples put sample 7050 in frame 70; it stands 4 pixels left of its column.
+    QImage live = blank();
+    QPainter painter(&live);
+    const F0Track track = trackOf([](int c) { return c == 70 ? 235.0f : 0.0f; });
+    QCOMPARE(DrawF0Point(painter, kGraph, track, 120, 20000, 7050, kRange, 1), 70);
+    QCOMPARE(DrawF0Point(painter, kGraph, track, 120, 20000, -1, kRange, 1), -1);
+    painter.end();
+    QCOMPARE(live.pixel(kGraph.x() + 116 + 1, 171), red);
+    QVERIFY(countColour(live, kGraph, red) <= kF0DotSize * kF0DotSize);  // that dot alone
 }
 
 void CurveOverlaysTest::rangeLimitsAreDrawnAndValuesJustOutsideAreNot_data() {
@@ -118,19 +124,6 @@ void CurveOverlaysTest::scaleHasFiveLabelsUnder300PixelsAndNineFrom300() {
     QCOMPARE(short_[3].text, std::string("775 Hz"));
     QCOMPARE(short_[4].text, std::string("1,00 k"));  // from 1000 Hz up, in thousands with a decimal comma
     QCOMPARE(F0AxisLabels({60, 1200}, 400, 300)[8].text, std::string("1,20 k"));
-}
-
-void CurveOverlaysTest::livePointReadsTheFrameOfItsSampleAndStandsLeftOfTheColumn() {
-    const F0Track track = trackOf([](int c) { return c == 45 ? 235.0f : 0.0f; });
-    QImage image = blank();
-    QPainter painter(&image);
-    // 200 frames over 20000 samples: sample 4550 lies in frame 45.
-    QCOMPARE(DrawF0Point(painter, kGraph, track, 120, 20000, 4550, kRange, 2), 45);
-    QCOMPARE(DrawF0Point(painter, kGraph, track, 120, 20000, -1, kRange, 2), -1);
-    QCOMPARE(DrawF0Point(painter, kGraph, track, 120, 20000, 20000, kRange, 2), -1);
-    painter.end();
-    QCOMPARE(image.pixel(kGraph.x() + 120 - 4 + 1, 171), qRgb(0, 0, 255));
-    QCOMPARE(image.pixel(kGraph.x() + 120 + 1, 171), kGrey);
 }
 
 void CurveOverlaysTest::formantsStandOnTheFrequencyScaleOnlyWhereTheVoiceIsVoiced() {

@@ -1,5 +1,6 @@
 // The F0 and formant curves of the main view: computed on demand on worker threads with the window kept alive,
-// equal to a single-threaded run, drawn over a copy of the page and forgotten with the samples. (That the
+// equal to a single-threaded run, drawn over a copy of the page and forgotten with the samples; and pictures of
+// them. (That the
 // person's input waits meanwhile rests on the event loop's own exclusion of input, which the offscreen platform
 // cannot feed.)
 #include <atomic>
@@ -8,6 +9,7 @@
 #include <stdexcept>
 #include <thread>
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -31,7 +33,7 @@ class ViewCurvesTest : public QObject {
     Q_OBJECT
 private slots:
     void curvesEqualASingleThreadedRunAndAreDrawnOverACopyOfThePage();
-    void curvesAreForgottenWhenTheRecordingCloses();
+    void speechInEachSchemeAtTwoSizesForPeopleToLookAt();
     void liveEstimateOfEveryFifthBlockIsWrittenInNavyWhileF0IsShown();
     void workAsideKeepsTheEventLoopRunning();
 };
@@ -77,28 +79,39 @@ void ViewCurvesTest::curvesEqualASingleThreadedRunAndAreDrawnOverACopyOfThePage(
     QCOMPARE(busy.count(), 4);  // shown again later, nothing is computed twice
     view.RedrawF0(true);
     QCOMPARE(busy.count(), 4);
+    // Other samples get their F0 computed anew (the formants stay hidden); closing forgets the curves.
+    client.write("wv002.wav", waveBytes(sine(300.0, 22050, 1.0), 22050));
+    QCOMPARE(view.OpenRecording(0, 2), 1);
+    QCOMPARE(busy.count(), 6);
+    QVERIFY(view.f0Track().valid && view.f0Track().values != single.values);
+    view.CloseRecording();
+    QVERIFY(!view.f0Track().valid && !view.formantTrack().valid && view.f0Track().count() == 0);
     QVERIFY(prompt.shown.empty());
 }
 
-void ViewCurvesTest::curvesAreForgottenWhenTheRecordingCloses() {
+// Pictures of the demo speech with both curves and a read-out up, written under the build tree, each with dots of
+// its scheme's F0 colour over the picture.
+void ViewCurvesTest::speechInEachSchemeAtTwoSizesForPeopleToLookAt() {
     ClientRoot client;
-    client.write("wv001.wav", waveBytes(sine(150.0, 11025, 1.0), 11025));
-    client.write("wv002.wav", waveBytes(sine(300.0, 11025, 1.0), 11025));
-    FakePrompt prompt;
-    CAFView view(prompt);
-    showForScreen(view, QSize(1024, 768));
-    view.setCurrentClient(client.folder, "Client");
-    QCOMPARE(view.OpenRecording(0, 1), 1);
-    view.RedrawFormants(true);
-    QVERIFY(view.f0Track().valid && view.formantTrack().valid);
-    // Opening another recording computes anew for its own samples, since the boxes are still checked.
-    const std::vector<float> first = view.f0Track().values;
-    QCOMPARE(view.OpenRecording(0, 2), 1);
-    QVERIFY(view.f0Track().valid);
-    QVERIFY(view.f0Track().values != first);
-    view.CloseRecording();
-    QVERIFY(!view.f0Track().valid && !view.formantTrack().valid);
-    QCOMPARE(view.f0Track().count(), 0);
+    client.copyDemo("pac001/wv001.wav", "wv001.wav");
+    QDir().mkpath("screenshots");
+    for (const QSize screen : {QSize(1024, 768), QSize(1920, 1080)}) {
+        for (int scheme = 0; scheme < 3; ++scheme) {
+            FakePrompt prompt;
+            CAFView view(prompt);
+            showForScreen(view, screen);
+            view.setCurrentClient(client.folder, "Demo client");
+            view.spectrogramSettings().colourScheme = scheme;
+            QCOMPARE(view.OpenRecording(0, 1), 1);
+            view.RedrawF0(true);
+            view.RedrawFormants(true);
+            view.ShowF0Readout(123.45f);
+            const QImage shot = view.grab().toImage();
+            QVERIFY(countInPicture(view, shot, F0DotColour(scheme).rgb()) > 100);
+            QVERIFY(shot.save(
+                QString("screenshots/curves-%1x%2-scheme%3.png").arg(screen.width()).arg(screen.height()).arg(scheme)));
+        }
+    }
 }
 
 void ViewCurvesTest::liveEstimateOfEveryFifthBlockIsWrittenInNavyWhileF0IsShown() {
