@@ -1113,5 +1113,33 @@ It is opened read-only and no change is written to it.</source>
         <translation>¡La tabla de pacientes %s no coincide con su propio encabezado!
 Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translation>
     </message>
+    <message>
+        <source>Min. Value: 50 Hz</source>
+        <translation>Valor mín.: 50 Hz</translation>
+    </message>
+    <message>
+        <source>Max. Value: 1200 Hz</source>
+        <translation>Valor máx.: 1200 Hz</translation>
+    </message>
+    <message>
+        <source>Min. Value &gt;= Max. Value</source>
+        <translation>Valor mín. &gt;= Valor máx.</translation>
+    </message>
+    <message>
+        <source>Calculating F0...</source>
+        <translation>Calculando F0...</translation>
+    </message>
+    <message>
+        <source>Min.:</source>
+        <translation>Mín.:</translation>
+    </message>
+    <message>
+        <source>Max:</source>
+        <translation>Máx.:</translation>
+    </message>
+    <message>
+        <source>Set the lowest and highest frequency of the F0 curve</source>
+        <translation>Fijar la frecuencia mínima y máxima de la curva de F0</translation>
+    </message>
 </context>
 </TS>

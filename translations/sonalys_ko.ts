@@ -1113,5 +1113,33 @@ It is opened read-only and no change is written to it.</source>
         <translation>환자 데이터베이스 파일 %s이(가) 자체 헤더와 일치하지 않습니다!
 읽기 전용으로 열리며 어떤 변경 사항도 저장되지 않습니다.</translation>
     </message>
+    <message>
+        <source>Min. Value: 50 Hz</source>
+        <translation>최솟값: 50 Hz</translation>
+    </message>
+    <message>
+        <source>Max. Value: 1200 Hz</source>
+        <translation>최댓값: 1200 Hz</translation>
+    </message>
+    <message>
+        <source>Min. Value &gt;= Max. Value</source>
+        <translation>최솟값 &gt;= 최댓값</translation>
+    </message>
+    <message>
+        <source>Calculating F0...</source>
+        <translation>F0 계산 중...</translation>
+    </message>
+    <message>
+        <source>Min.:</source>
+        <translation>최소:</translation>
+    </message>
+    <message>
+        <source>Max:</source>
+        <translation>최대:</translation>
+    </message>
+    <message>
+        <source>Set the lowest and highest frequency of the F0 curve</source>
+        <translation>F0 곡선의 최저 및 최고 주파수 설정</translation>
+    </message>
 </context>
 </TS>

@@ -1113,5 +1113,33 @@ It is opened read-only and no change is written to it.</source>
         <translation>A tabela de pacientes %s não corresponde ao seu próprio cabeçalho!
 Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</translation>
     </message>
+    <message>
+        <source>Min. Value: 50 Hz</source>
+        <translation>Valor mín.: 50 Hz</translation>
+    </message>
+    <message>
+        <source>Max. Value: 1200 Hz</source>
+        <translation>Valor máx.: 1200 Hz</translation>
+    </message>
+    <message>
+        <source>Min. Value &gt;= Max. Value</source>
+        <translation>Valor mín. &gt;= Valor máx.</translation>
+    </message>
+    <message>
+        <source>Calculating F0...</source>
+        <translation>Calculando F0...</translation>
+    </message>
+    <message>
+        <source>Min.:</source>
+        <translation>Mín.:</translation>
+    </message>
+    <message>
+        <source>Max:</source>
+        <translation>Máx.:</translation>
+    </message>
+    <message>
+        <source>Set the lowest and highest frequency of the F0 curve</source>
+        <translation>Definir a frequência mínima e máxima da curva de F0</translation>
+    </message>
 </context>
 </TS>

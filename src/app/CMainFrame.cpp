@@ -18,6 +18,7 @@
 #include "app/CAbrirPaciente.h"
 #include "app/CAbrirSessao.h"
 #include "app/CConfGravar.h"
+#include "app/CConfF0.h"
 #include "app/CPaciente.h"
 #include "app/CVolume.h"
 #include "app/DesktopPrograms.h"
@@ -76,6 +77,8 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     connect(this, &CMainFrame::recordingChosen, this, &CMainFrame::openChosenRecording);
     connect(this, &CMainFrame::recordingFileChosen, this, &CMainFrame::openChosenFile);
     connect(this, &CMainFrame::recordingDeleted, m_view, &CAFView::RecordingDeleted);
+    connect(m_view, &CAFView::busyText, this, &CMainFrame::ShowBusyText);
+    m_view->setF0RangeSource([this] { return f0Range; });
     createCommands();
     createToolBar();
     createStatusBar();
@@ -152,6 +155,7 @@ void CMainFrame::applyClientTypeRange() {
     } else {
         m_prompt.showOk(kUndefinedType);
     }
+    m_view->F0RangeChanged();
 }
 
 // Back to no client: the client commands go off and the view shows nothing.
@@ -340,6 +344,8 @@ void CMainFrame::createCommands() {
     connect(addCommand(settings, kIdRecordSettings, FindViewCommand(kIdRecordSettings)->text, kTipRecordSettings,
                        nullptr, notRecording),
             &QAction::triggered, this, &CMainFrame::RecordSetting);
+    connect(addCommand(settings, kIdF0Setting, kCommandF0Setting, kTipF0Setting, nullptr, idle), &QAction::triggered,
+            this, &CMainFrame::f0Setting);
     QMenu* language = settings->addMenu(QString());
     m_menus.push_back({language, kMenuLanguage});
     connect(language, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
@@ -466,6 +472,13 @@ void CMainFrame::RecordSetting() {
     if (dialog.exec() != QDialog::Accepted) return;
     RecordInput = ApplyRecordInput(RecordInput, dialog.Input(), *m_mixer, m_prompt, m_home);
     m_view->update();
+}
+
+void CMainFrame::f0Setting() {
+    CConfF0 box(f0Range, m_prompt, this);
+    if (box.exec() != QDialog::Accepted) return;
+    f0Range = box.range();
+    m_view->F0RangeChanged();
 }
 
 void CMainFrame::contents() {

@@ -129,6 +129,7 @@ public slots:
     void openRecording();
     void volume();
     void RecordSetting();
+    void f0Setting();
     void contents();
     void about();
     void languageEnglish();

@@ -6,15 +6,8 @@
 
 #include <QtGlobal>
 
-// The analysis range of F0, in Hz.
-struct F0Range {
-    int minimum = 70;
-    int maximum = 400;
-    bool operator==(const F0Range&) const = default;
-};
+#include "panels/F0Range.h"
 
-// The range when the program starts, before any client.
-inline constexpr F0Range kStartF0Range{70, 400};
 // Work without a client: the voice could be anyone's.
 inline constexpr F0Range kOutsideClientF0Range{70, 1000};
 

@@ -1,25 +1,33 @@
 // sonalys-analyze spectrogram: the spectrogram picture of a recording, as the spectrogram page paints it, written
-// as a PNG file.
+// as a PNG file, with the F0 and formant dots over it when asked, drawn by the same code as on the screen.
+#include <algorithm>
 #include <iostream>
 #include <span>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "Args.h"
 #include "SampleRange.h"
+#include "StreamPrompt.h"
 #include "WaveInput.h"
 #include "analysis/Palette.h"
 #include "analysis/Spectrogram.h"
 
 #ifdef SONALYS_WITH_QT
 #include <QImage>
+#include <QPainter>
 #include <QString>
+
+#include "panels/CurveOverlays.h"
 #endif
 
 namespace {
 
 constexpr std::string_view kUsage =
     "usage: sonalys-analyze spectrogram FILE.wav --out PICTURE.png [--width 671] [--height 300]\n"
-    "       [--band 10|40|80|150|300|400] [--limit HZ] [--range 70] [--scheme 0|1|2] [--from S] [--to S]\n";
+    "       [--band 10|40|80|150|300|400] [--limit HZ] [--range 70] [--scheme 0|1|2] [--from S] [--to S]\n"
+    "       [--f0 [--f0-min 70] [--f0-max 400]] [--formants]\n";
 
 #ifdef SONALYS_WITH_QT
 // The upper frequency the panel selects first for a rate: the third entry of its list, or the whole band at a
@@ -40,6 +48,7 @@ struct PictureSettings {
     int limit = 0;
     int range = kDefaultDynamicRange;
     int scheme = kDefaultColourScheme;
+    F0Range f0Range = kStartF0Range;
 };
 
 bool isBand(long long hz) { return hz == 10 || hz == 40 || hz == 80 || hz == 150 || hz == 300 || hz == 400; }
@@ -52,6 +61,8 @@ bool readSettings(Args& args, int rate, PictureSettings& s) {
     const long long limit = args.integer("limit", defaultLimit(rate));
     const long long range = args.integer("range", s.range);
     const long long scheme = args.integer("scheme", s.scheme);
+    const long long f0Min = args.integer("f0-min", s.f0Range.minimum);
+    const long long f0Max = args.integer("f0-max", s.f0Range.maximum);
     if (!args.ok()) {
         std::cerr << "sonalys-analyze spectrogram: " << args.error() << "\n";
         return false;
@@ -63,12 +74,20 @@ bool readSettings(Args& args, int rate, PictureSettings& s) {
     if (limit < 1 || limit > rate / 2) problem = "--limit must lie above 0 and at most at half the sample rate";
     if (range < 0 || range > 100) problem = "--range must be 0 to 100 dB";
     if (scheme < 0 || scheme > 2) problem = "--scheme must be 0, 1 or 2";
+    const F0Range f0Range{static_cast<int>(std::clamp(f0Min, 0LL, 100000LL)),
+                          static_cast<int>(std::clamp(f0Max, 0LL, 100000LL))};
+    if (F0RangeProblem(f0Range)) problem = "--f0-min and --f0-max must lie from 50 to 1200 Hz, the minimum below";
     if (problem != nullptr) {
         std::cerr << "sonalys-analyze spectrogram: " << problem << "\n";
         return false;
     }
-    s = {static_cast<int>(width), static_cast<int>(height), static_cast<int>(band),
-         static_cast<int>(limit), static_cast<int>(range),  static_cast<int>(scheme)};
+    s = {static_cast<int>(width),
+         static_cast<int>(height),
+         static_cast<int>(band),
+         static_cast<int>(limit),
+         static_cast<int>(range),
+         static_cast<int>(scheme),
+         f0Range};
     return true;
 }
 
@@ -91,13 +110,40 @@ private:
     QImage& m_image;
     const Palette& m_palette;
 };
+
+// The curves over the picture: computed over the whole recording as the view computes them, and drawn over the
+// range shown, formants first and F0 over them.
+void drawCurves(QImage& image, Args& args, const std::vector<std::int16_t>& samples, int rate, const SampleRange& range,
+                const PictureSettings& settings, double upperHz) {
+    const bool f0 = args.has("f0");
+    const bool formants = args.has("formants");
+    if (!f0 && !formants) return;
+    F0Track f0Track;
+    computeF0Curve(f0Track, samples.data(), static_cast<int>(samples.size()), rate);
+    QPainter painter(&image);
+    const QRect graph(0, 0, settings.width, settings.height);
+    const auto total = static_cast<std::int64_t>(samples.size());
+    const auto first = static_cast<std::int64_t>(range.first);
+    const auto end = static_cast<std::int64_t>(range.end);
+    if (formants) {
+        StreamPrompt prompt(std::cerr);
+        FormantTracker tracker(prompt);
+        const unsigned cores = std::thread::hardware_concurrency();
+        tracker.setThreadCount(cores == 0 ? 1 : static_cast<int>(cores));
+        FormantTrack track;
+        tracker.computeFormants(track, samples, rate);
+        DrawFormants(painter, graph, track, total, upperHz, first, end, settings.scheme, f0Track);
+    }
+    if (f0) DrawF0(painter, graph, f0Track, total, first, end, settings.f0Range, settings.scheme);
+}
 #endif
 
 }  // namespace
 
 int runSpectrogram(CommandArgs words) {
-    Args args(words, {});
-    args.allowOnly({"out", "width", "height", "band", "limit", "range", "scheme", "from", "to"});
+    Args args(words, {"f0", "formants"});
+    args.allowOnly({"out", "width", "height", "band", "limit", "range", "scheme", "from", "to", "f0", "f0-min",
+                    "f0-max", "formants"});
     const auto out = args.value("out");
     if (!args.ok() || args.positional().size() != 1 || !out || out->empty()) {
         if (!args.ok()) std::cerr << "sonalys-analyze spectrogram: " << args.error() << "\n";
@@ -135,6 +181,7 @@ int runSpectrogram(CommandArgs words) {
     spectrogram.computeColumns(settings.width, settings.height,
                                std::span<const std::int16_t>(input->samples).subspan(range->first), range->from,
                                range->to, rate, painter);
+    drawCurves(image, args, input->samples, rate, *range, settings, rate * 0.5 / spectrogram.zoom());
     if (!image.save(QString::fromStdString(std::string(*out)), "PNG")) {
         std::cerr << "sonalys-analyze spectrogram: could not write " << *out << "\n";
         return 2;

@@ -217,6 +217,8 @@ void CAFView::CloseRecording() {
         panel->Reset();
         panel->EnablePlay(false);
     }
+    invalidateCurves();
+    m_f0Readout = 0.0f;
     clearReadOut();
     UpdateCommands();
 }
@@ -304,6 +306,7 @@ int CAFView::loadFileSteps(DisplayMode remembered) {
     m_wholeSpectrum.reset();
     m_spectrogramPanel->EnablePlay(true);
     m_spectrumPanel->EnablePlay(true);
+    invalidateCurves();
     RedrawAll();
     return 1;
 }
@@ -339,6 +342,8 @@ void CAFView::ShowSpectrumPage() {
 void CAFView::resetLivePage() {
     m_liveTrace.clear();
     m_liveColumn = 0;
+    m_liveF0Blocks = 0;
+    m_f0Readout = 0.0f;
     m_picture.resize(pictureDeviceRect().size());
     if (!isLiveMode(m_displayMode)) return;
     applyRate(rate());
@@ -357,6 +362,7 @@ void CAFView::DrawLiveBlock(std::span<const std::int16_t> block) {
             m_liveColumn = std::min(m_liveColumn + 1, m_picture.size().width() - 1);
         }
         m_liveTrace.addBlock(block);
+        if (m_showF0) estimateLiveF0();
     } else {
         // A short block is too short for a spectrum of its own: the start of the ring stands in for it.
         const std::span<const std::int16_t> ring = m_spectrogramObject.ring();
@@ -381,6 +387,9 @@ void CAFView::RedrawAll() {
     clearReadOut();
     if (m_displayMode == DisplayMode::FileSpectrogramMode && m_recording.hasSamples()) {
         computePicture();
+        ensureCurves();
+        drawOverlays();
+        update();
     } else if (m_displayMode == DisplayMode::FileSpectrumMode && m_recording.hasSamples()) {
         ensureSpectrum();
         rebuildPage();
@@ -513,7 +522,7 @@ void CAFView::rebuildPage(bool dropSelection) {
     }
     m_backBitmap.setDevicePixelRatio(ratio);
     // The graph's overlays (curves, labels) go over a copy; without them the two are one picture.
-    m_savedGraph = m_backBitmap;
+    drawOverlays();
     if (dropSelection) {
         m_dragging = false;
         m_hasSelection = false;

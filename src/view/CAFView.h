@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -16,9 +17,11 @@
 #include <QWidget>
 #include <QtGlobal>
 
+#include "analysis/FormantTracker.h"
 #include "analysis/PowerSpectrum.h"
 #include "analysis/Spectrogram.h"
 #include "panels/ClassAux.h"
+#include "panels/CurveOverlays.h"
 #include "panels/PanelDefaults.h"
 #include "panels/SpectrogramPicture.h"
 #include "panels/SpectrumPicture.h"
@@ -26,6 +29,7 @@
 #include "store/LoadedRecording.h"
 #include "store/OpenOtherFile.h"
 #include "store/RecordingFiles.h"
+#include "view/BackgroundWork.h"
 #include "view/CAFDoc.h"
 #include "view/DisplayMode.h"
 #include "view/Selection.h"
@@ -47,6 +51,11 @@ inline constexpr std::string_view kEmptyViewLine =
 // A step of loading that cannot fail today; its message is kept for the day it reads more about the file.
 inline constexpr std::string_view kNoAdditionalInformation = QT_TRANSLATE_NOOP(
     "Sonalys", "Attention!\nIt was not possible to read additional information about the sound file!");
+
+// The working messages of the frame while a curve is computed.
+inline constexpr std::string_view kCalculatingF0 = QT_TRANSLATE_NOOP("Sonalys", "Calculating F0...");
+inline constexpr std::string_view kCalculatingFormantsText = QT_TRANSLATE_NOOP("Sonalys", "Calculating Formants...");
+static_assert(kCalculatingFormantsText == kCalculatingFormants);
 
 class CAFView : public QWidget, public PanelAudio {
     Q_OBJECT
@@ -103,6 +112,26 @@ public:
     // of the newest samples, folded into the average; and the block, or on the spectrum page its first half, on the
     // live strip.
     void DrawLiveBlock(std::span<const std::int16_t> block);
+
+    // The curves over the spectrogram, as the F0 and Formants boxes of the side panel ask for them. Shown, a curve
+    // is computed when the samples loaded have none yet (formants after F0, whose unvoiced frames make their gaps)
+    // and drawn; hidden, it is removed and the other overlay stays. Every redraw of the page draws the shown ones.
+    void RedrawF0(bool show);
+    void RedrawFormants(bool show);
+    bool f0Shown() const { return m_showF0; }
+    bool formantsShown() const { return m_showFormants; }
+    const F0Track& f0Track() const { return m_f0Track; }
+    const FormantTrack& formantTrack() const { return m_formantTrack; }
+    // Where the F0 scale's range comes from: the main window's setting; until one is given, the range at start.
+    void setF0RangeSource(std::function<F0Range()> source) { m_f0RangeSource = std::move(source); }
+    F0Range f0Range() const { return m_f0RangeSource ? m_f0RangeSource() : kStartF0Range; }
+    // The F0 range changed: the curve and its scale are drawn again when shown.
+    void F0RangeChanged();
+    // The numeric F0 read-out above the graph, for the play and record engines: `hz` in navy, blanked when it is 0
+    // (an unvoiced frame) or while the F0 curve is not shown. On the live spectrogram page the view itself writes
+    // the estimate of every fifth block while the F0 curve is shown.
+    void ShowF0Readout(float hz);
+    float f0Readout() const { return m_f0Readout; }
 
     // The dialog that asks how to fold a stereo file; tests put a scripted answer in its place.
     void setStereoChooser(StereoChooser chooser) { m_chooseStereo = std::move(chooser); }
@@ -162,6 +191,8 @@ public:
 signals:
     // The state the commands depend on has changed.
     void commandsChanged();
+    // A working message for the frame ("Calculating F0..."), or an empty text when the work is done.
+    void busyText(const QString& text);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -188,6 +219,14 @@ private:
     void computePicture();
     void ensureSpectrum();
     void sharpenPicture();
+
+    // The curves: computed on demand, forgotten with the samples, drawn over a copy of the page.
+    void ensureCurves();
+    void invalidateCurves();
+    void drawOverlays();
+    bool overlaysApply() const;
+    void drawCurves(QPainter& painter);
+    void estimateLiveF0();
 
     // The page drawn anew into the off-screen images; a redraw of the strip drops any selection.
     void rebuildPage(bool dropSelection = true);
@@ -258,7 +297,17 @@ private:
     bool m_pictureComputed = false;
     bool m_computing = false;
     LiveTrace m_liveTrace;
-    int m_liveColumn = 0;  // the next column of the live spectrogram
+    int m_liveColumn = 0;          // the next column of the live spectrogram
+    DeferredPrompt m_curvePrompt;  // the formant tracker's messages, from its worker thread
+    FormantTracker m_formantObject{m_curvePrompt};
+    F0Track m_f0Track;
+    FormantTrack m_formantTrack;
+    bool m_showF0 = false;
+    bool m_showFormants = false;
+    bool m_computingCurves = false;
+    std::function<F0Range()> m_f0RangeSource;
+    float m_f0Readout = 0.0f;  // Hz; 0 shows a blank read-out
+    int m_liveF0Blocks = 0;    // live blocks since the last estimate
 
     QImage m_backBitmap;
     QImage m_savedGraph;

@@ -14,16 +14,13 @@ namespace {
 
 QString text(std::string_view english) { return uiText(english); }
 
-// Where the caption row's texts start: 5 pixels into the row on the small layout, 20 on the large one. The boxes
-// are as high as the lines of their fonts, so that no descender is cut.
-int captionTop(const ViewLayout& layout) { return layout.TitleTop + (layout.LargeLayout ? 20 : 5); }
 constexpr int kCaptionHeight = 25;
 constexpr int kLineHeight = 13;
 
 // The small layout's row is lower than the caption and the format line under it: the band reaches down to hold
 // them both.
 int captionBandBottom(const ViewLayout& layout) {
-    return std::max(layout.TitleTop + layout.TitleHeight, captionTop(layout) + kCaptionHeight + kLineHeight);
+    return std::max(layout.TitleTop + layout.TitleHeight, CaptionTop(layout) + kCaptionHeight + kLineHeight);
 }
 
 }  // namespace
@@ -73,6 +70,10 @@ void DrawGraphFrame(QPainter& painter, const ViewLayout& layout) {
     painter.restore();
 }
 
+// Where the caption row's texts start: 5 pixels into the row on the small layout, 20 on the large one. The boxes
+// are as high as the lines of their fonts, so that no descender is cut.
+int CaptionTop(const ViewLayout& layout) { return layout.TitleTop + (layout.LargeLayout ? 20 : 5); }
+
 void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mode, const QString& duration) {
     // The band runs across the whole window, also where the page, kept in shape, leaves room at its sides.
     const QRectF window = painter.worldTransform().inverted().mapRect(QRectF(painter.viewport()));
@@ -82,7 +83,7 @@ void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mod
         QColor::fromRgb(kTextRowColour));
     painter.setPen(Qt::black);
     painter.setFont(CaptionFont());
-    const int top = captionTop(layout);
+    const int top = CaptionTop(layout);
     const bool spectrogram = mode == DisplayMode::LiveSpectrogramMode || mode == DisplayMode::FileSpectrogramMode;
     painter.drawText(QRect(layout.GraphLeft - 80, top, 440, kCaptionHeight), Qt::AlignLeft | Qt::AlignVCenter,
                      text(spectrogram ? kSpectrogramCaption : kPowerSpectrumCaption));
@@ -96,7 +97,7 @@ void DrawFormatLine(QPainter& painter, const ViewLayout& layout, const QString& 
     painter.save();
     painter.setPen(Qt::black);
     painter.setFont(FormatLineFont());
-    painter.drawText(QRect(176 + layout.XOffset, captionTop(layout) + kCaptionHeight, 400, kLineHeight),
+    painter.drawText(QRect(176 + layout.XOffset, CaptionTop(layout) + kCaptionHeight, 400, kLineHeight),
                      Qt::AlignLeft | Qt::AlignVCenter, line);
     painter.restore();
 }
@@ -105,7 +106,7 @@ void DrawFileLine(QPainter& painter, const ViewLayout& layout, const QString& li
     painter.save();
     painter.setPen(Qt::black);
     painter.setFont(FormatLineFont());
-    painter.drawText(QRect(layout.graphRight() - 400, captionTop(layout) + kCaptionHeight, 400, kLineHeight),
+    painter.drawText(QRect(layout.graphRight() - 400, CaptionTop(layout) + kCaptionHeight, 400, kLineHeight),
                      Qt::AlignRight | Qt::AlignVCenter, text(kFileCaption) + QLatin1Char(' ') + line);
     painter.restore();
 }

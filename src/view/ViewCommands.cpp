@@ -36,7 +36,7 @@ const std::array<ViewCommand, 30> kViewCommands = {{
      [](const S& s) { return s.SampleCount > 0 && s.RecordingNumber != -1; }, nullptr},
     {kIdCleanTexts, QT_TRANSLATE_NOOP("Sonalys", "Clean Texts"),
      [](const S& s) { return static_cast<int>(s.mode) > 8 && s.idle() && s.RecordingNumber != -1; }, nullptr},
-    {kIdF0Setting, QT_TRANSLATE_NOOP("Sonalys", "F0 Setting..."), idle, nullptr},
+    {kIdF0Setting, kCommandF0Setting, idle, nullptr},
     {kIdContents, QT_TRANSLATE_NOOP("Sonalys", "Contents..."), idle, nullptr},
     {kIdAbout, QT_TRANSLATE_NOOP("Sonalys", "&About Sonalys..."), idle, nullptr},
     {kIdBackup, QT_TRANSLATE_NOOP("Sonalys", "&Backup..."), idle, nullptr},

@@ -76,6 +76,7 @@ inline constexpr std::string_view kCommandPaste = QT_TRANSLATE_NOOP("Sonalys", "
 inline constexpr std::string_view kCommandSilence = QT_TRANSLATE_NOOP("Sonalys", "Silence");
 inline constexpr std::string_view kCommandSpectrogram = QT_TRANSLATE_NOOP("Sonalys", "&Spectrogram");
 inline constexpr std::string_view kCommandPowerSpectrum = QT_TRANSLATE_NOOP("Sonalys", "Power Spectrum");
+inline constexpr std::string_view kCommandF0Setting = QT_TRANSLATE_NOOP("Sonalys", "F0 Setting...");
 
 // Every command of the table, in menu order.
 extern const std::array<ViewCommand, 30> kViewCommands;

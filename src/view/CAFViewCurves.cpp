@@ -1,0 +1,126 @@
+// The F0 and formant curves of the main view: computed on demand on worker threads, and drawn over a copy of the
+// spectrogram page so that removing one is a copy of the page without them.
+#include <algorithm>
+
+#include <QPainter>
+#include <QThread>
+
+#include "controls/UiText.h"
+#include "view/CAFView.h"
+#include "view/DisplayModeRules.h"
+#include "view/GraphCaptions.h"
+#include "view/WaitCursor.h"
+
+void CAFView::RedrawF0(bool show) {
+    m_showF0 = show;
+    if (show) ensureCurves();
+    drawOverlays();
+    update();
+}
+
+void CAFView::RedrawFormants(bool show) {
+    m_showFormants = show;
+    if (show) ensureCurves();
+    drawOverlays();
+    update();
+}
+
+void CAFView::F0RangeChanged() {
+    if (!m_showF0 || !isSpectrogramPage(m_displayMode)) return;
+    drawOverlays();
+    update();
+}
+
+bool CAFView::overlaysApply() const { return isSpectrogramPage(m_displayMode) && m_recording.hasSamples(); }
+
+void CAFView::invalidateCurves() {
+    m_f0Track = F0Track{};
+    m_formantTrack = FormantTrack{};
+}
+
+// Runs the analyses that the shown curves need and the samples loaded do not have yet: F0 first, since the
+// formants are shown only where it finds a voice. The window repaints meanwhile; input waits.
+void CAFView::ensureCurves() {
+    if (m_computingCurves || !overlaysApply()) return;
+    const bool needF0 = (m_showF0 || m_showFormants) && !m_f0Track.valid;
+    const bool needFormants = m_showFormants && !m_formantTrack.valid;
+    if (!needF0 && !needFormants) return;
+    m_computingCurves = true;
+    WaitCursor wait;
+    const std::span<const std::int16_t> samples = std::as_const(m_recording).samples();
+    const int sampleRate = rate();
+    if (needF0) {
+        emit busyText(uiText(kCalculatingF0));
+        F0Track track;
+        RunKeepingWindowAlive(
+            [&] { computeF0Curve(track, samples.data(), static_cast<int>(samples.size()), sampleRate); });
+        m_f0Track = std::move(track);
+        emit busyText(QString());
+    }
+    if (needFormants) {
+        emit busyText(uiText(kCalculatingFormantsText));
+        FormantTrack track;
+        m_formantObject.setThreadCount(QThread::idealThreadCount());
+        RunKeepingWindowAlive([&] { m_formantObject.computeFormants(track, samples, sampleRate); });
+        m_formantTrack = std::move(track);
+        emit busyText(QString());
+    }
+    wait.restore();
+    m_computingCurves = false;
+    m_curvePrompt.flushTo(m_prompt);
+}
+
+void CAFView::ShowF0Readout(float hz) {
+    m_f0Readout = hz;
+    drawOverlays();
+    update();
+}
+
+// Every fifth live block the F0 of the ring's first 1024 samples goes to the read-out.
+void CAFView::estimateLiveF0() {
+    if (++m_liveF0Blocks <= 4) return;
+    m_liveF0Blocks = 0;
+    const std::span<const std::int16_t> ring = m_spectrogramObject.ring();
+    m_f0Readout = liveF0Value(ring.data(), static_cast<int>(std::min<std::size_t>(1024, ring.size())), rate());
+}
+
+namespace {
+
+// Where the "F" of the read-out stands: on the band of the captions, just above the time, so that the value ends
+// over the right end of the graph and clear of the time.
+QPoint f0ReadoutPoint(const ViewLayout& layout) { return QPoint(layout.graphRight() - 80, CaptionTop(layout) - 20); }
+
+}  // namespace
+
+// The page as rebuilt, with the overlays of the spectrogram page over it: the read-out, and the shown curves.
+void CAFView::drawOverlays() {
+    m_savedGraph = m_backBitmap;
+    if (!isSpectrogramPage(m_displayMode) || m_computing || (!m_showF0 && !m_showFormants)) return;
+    QPainter painter(&m_savedGraph);
+    painter.setTransform(m_layout.toWidget(QSizeF(size())));
+    if (m_showF0 && m_f0Readout > 0.0f) {
+        DrawF0Readout(painter, f0ReadoutPoint(m_layout), m_f0Readout, QColor::fromRgb(kTextRowColour));
+    } else {
+        BlankReadout(painter, f0ReadoutPoint(m_layout), QColor::fromRgb(kTextRowColour));
+    }
+    drawCurves(painter);
+}
+
+// F0 with its scale on the right of the graph, over the formants on the spectrogram's own frequency scale. The
+// scale stands on the live page too, before any samples.
+void CAFView::drawCurves(QPainter& painter) {
+    const bool samples = m_recording.hasSamples();
+    const QRect graph = m_layout.pictureRect();
+    const auto total = static_cast<std::int64_t>(m_recording.SampleCount());
+    const int scheme = m_spectrogramSettings.colourScheme;
+    if (m_showFormants && samples) {
+        const double upperHz = m_spectrogramObject.sampleRate() * 0.5 / m_spectrogramObject.zoom();
+        DrawFormants(painter, graph, m_formantTrack, total, upperHz, m_firstShown, m_lastShown, scheme, m_f0Track);
+    }
+    if (m_showF0) {
+        const F0Range range = f0Range();
+        if (samples) DrawF0(painter, graph, m_f0Track, total, m_firstShown, m_lastShown, range, scheme);
+        DrawF0Axis(painter, F0AxisX(m_layout.GraphLeft, m_layout.GraphWidth, m_layout.LargeLayout), m_layout.GraphTop,
+                   m_layout.GraphHeight, range, scheme);
+    }
+}
