@@ -67,7 +67,13 @@ TEST_F(WaveRecorderTest, EveryBufferReachesTheScratchFileAtOnceAndTheTakeAtStop)
     capture(525, 1);  // ten full buffers of 50 values and a half-filled eleventh
     EXPECT_EQ(std::filesystem::file_size(root / "grav.tmp"), 1000u);  // flushed buffer by buffer
     EXPECT_EQ(device.queued(), 100u);                                 // each buffer back was replaced
+    device.calls.clear();
     stop();
+    // A reset hands every buffer back, each is let go, and only then does the device close.
+    expected.assign(1, "reset");
+    expected.insert(expected.end(), 100, "unprepare");
+    expected.push_back("close");
+    EXPECT_EQ(device.calls, expected);
     EXPECT_EQ(taken(), counting(525, 1));  // the reset handed back the half-filled buffer first
     EXPECT_EQ(recorder.finishState(), WaveRecorder::kFinished);
     EXPECT_EQ(window.closeEvents, 1);
