@@ -46,7 +46,7 @@ private slots:
     void splashStaysCentredAndClosesOnAKeyAClickOrAfterTwoSeconds();
     void languageCommandsWriteLangDatAndFollowTheRecording();
     void exitAsksFirstAndTheStatusBarShowsBusyTexts();
-    void aboutBoxShowsVersionMemoryAndSystem();
+    void aboutBoxShowsVersionAndMemory();
     void messageBoxIsTitledWithTheProgramsName();
     void contentsOpensTheUserGuideWhoseLinksAllResolve();
 };
@@ -204,12 +204,10 @@ void CAFAppTest::exitAsksFirstAndTheStatusBarShowsBusyTexts() {
     QVERIFY(!frame.isVisible());
 }
 
-void CAFAppTest::aboutBoxShowsVersionMemoryAndSystem() {
+void CAFAppTest::aboutBoxShowsVersionAndMemory() {
     QCOMPARE(VersionLine(true), QString("Sonalys version 4.2"));
     QCOMPARE(VersionLine(false), QString("Sonalys Trial Version"));
     QCOMPARE(MemoryText(2048), QString("2048,0 MB"));
-    CAboutDlg box(true);
-    QCOMPARE(box.findChild<QLabel*>("system")->text(), QSysInfo::prettyProductName());
 }
 
 void CAFAppTest::messageBoxIsTitledWithTheProgramsName() {
@@ -222,10 +220,6 @@ void CAFAppTest::messageBoxIsTitledWithTheProgramsName() {
     ModalDriver::answerMessageBox(QMessageBox::Ok, &title, &text);
     prompt.showOk("Select a file!");
     QCOMPARE(title + "|" + text, QString("Sonalys|Select a file!"));
-    ModalDriver::answerMessageBox(QMessageBox::No);
-    QVERIFY(!prompt.askYesNo("Are you sure you want to exit?"));
-    ModalDriver::answerMessageBox(QMessageBox::Yes);
-    QVERIFY(prompt.askYesNo("Are you sure you want to exit?"));
 }
 
 void CAFAppTest::contentsOpensTheUserGuideWhoseLinksAllResolve() {

@@ -6,7 +6,6 @@
 #include <QTest>
 
 #include "DataRoot.h"
-#include "ModalDriver.h"
 #include "ProgramOnRoot.h"
 #include "app/CPaciente.h"
 #include "controls/ReportList.h"
@@ -45,10 +44,7 @@ private slots:
     void nameColumnNarrowsFromElevenClients();
     void searchFindsTheFirstNameBeginningWithTheText();
     void clientCommandsFollowTheChoice();
-    void openMakesTheChosenClientCurrent();
-    void personalInformationRewritesTheRow();
     void deleteRemovesTheFilesTheFolderAndOnlyThatRow();
-    void deletingTheOpenClientLeavesNoClient();
     void deletingAClientGoneMeanwhileTouchesNothing();
 };
 
@@ -105,42 +101,6 @@ void CAbrirPacienteTest::clientCommandsFollowTheChoice() {
     QCOMPARE(program.prompt.shown, std::vector<std::string>(2, "You need to select a Item!"));
     dialog.open();
     QCOMPARE(dialog.result(), 0);
-    // New Client and Other Files end the list with their own codes.
-    button(dialog, "newClient")->click();
-    QCOMPARE(dialog.result(), int(CAbrirPaciente::NewClientChosen));
-    CAbrirPaciente again(program.frame());
-    button(again, "otherFiles")->click();
-    QCOMPARE(again.result(), int(CAbrirPaciente::OtherFilesChosen));
-}
-
-void CAbrirPacienteTest::openMakesTheChosenClientCurrent() {
-    ListOnRoot on({{1, "Ana", 1}, {2, "Bia", 2, "12241999"}});
-    on.dialog.show();
-    on.dialog.list()->selectRow(1);
-    QTest::keyClick(on.dialog.list(), Qt::Key_Return);
-    QCOMPARE(on.dialog.result(), int(CAbrirPaciente::ClientChosen));
-    const PacienteRecord& current = on.program.frame().CurrentClient;
-    QCOMPARE(current.Codigo * 10 + current.Tipo, 22);
-    QCOMPARE(std::string(recordText(current.Nome)) + std::string(recordText(current.DataNasc)),
-             std::string("Bia12241999"));
-}
-
-void CAbrirPacienteTest::personalInformationRewritesTheRow() {
-    ListOnRoot on({{1, "Ana"}, {2, "Bia"}});
-    auto& [root, program, dialog] = on;
-    program.frame().CurrentClient = makeRecord({2, "Bia"});
-    dialog.list()->selectRow(1);
-    ModalDriver::whenModal([](QWidget* modal) {
-        auto* form = qobject_cast<CPaciente*>(modal);
-        form->findChild<QLineEdit*>("name")->setText("Bianca");
-        form->accept();
-    });
-    dialog.personalInformation();
-    QCOMPARE(dialog.list()->cellText(1, 1), QString("Bianca"));
-    QCOMPARE(tableNames(root.path()), (std::vector<std::string>{"Ana", "Bianca"}));
-    // The open client is the one changed: the title follows.
-    QCOMPARE(program.frame().windowTitle(), QString("Bianca - Sonalys"));
-    QCOMPARE(std::string(recordText(program.frame().CurrentClient.Nome)), std::string("Bianca"));
 }
 
 void CAbrirPacienteTest::deleteRemovesTheFilesTheFolderAndOnlyThatRow() {
@@ -170,17 +130,6 @@ void CAbrirPacienteTest::deleteRemovesTheFilesTheFolderAndOnlyThatRow() {
     QCOMPARE(program.prompt.last(), std::string("Client´s folder can´t be deleted!"));
     QVERIFY(std::filesystem::exists(root / "pac003/wv001.bkp"));
     QCOMPARE(tableNames(root.path()), std::vector<std::string>{"Ana"});
-}
-
-void CAbrirPacienteTest::deletingTheOpenClientLeavesNoClient() {
-    ListOnRoot on({{1, "Ana"}, {2, "Bia"}});
-    CMainFrame& frame = on.program.frame();
-    frame.CurrentClient = makeRecord({2, "Bia"});
-    on.dialog.list()->selectRow(1);
-    on.dialog.deleteClient();
-    QCOMPARE(frame.CurrentClient.Codigo, -1);
-    QVERIFY(!frame.command(32817)->isEnabled() && !frame.command(32784)->isEnabled());
-    QCOMPARE(frame.windowTitle(), QString("Sonalys"));
 }
 
 void CAbrirPacienteTest::deletingAClientGoneMeanwhileTouchesNothing() {

@@ -30,7 +30,8 @@ constexpr int kOpenClient = 32812, kNewClient = 32811, kPersonalInformation = 32
 
 std::vector<std::pair<std::string, std::string>> tableRows(const fs::path& root) {
     std::vector<std::pair<std::string, std::string>> rows;
-    for (const DbfRow& row : readDbfRows(root / "pacb.dbf")) rows.emplace_back(trimmed(row.codigo), trimmed(row.nome));
+    for (const PacienteRecord& row : tableRecords(root))
+        rows.emplace_back(std::to_string(row.Codigo), recordText(row.Nome));
     return rows;
 }
 
@@ -74,8 +75,7 @@ private slots:
     void clientCommandsNeedAClientWithAFolder();
     void openCreateEditAndDeleteAClientOnTheDemoRoot();
     void aRecordingChosenFromTheListGoesToTheView();
-    void otherFilesWorksWithoutAClient();
-    void otherFilesOpensAnySoundAndTheDialogLeavesNoTrace();
+    void otherFilesWorksWithoutAClientAndOpensAnySound();
     void anUnknownTypeKeepsTheRange();
 };
 
@@ -157,9 +157,11 @@ void CMainFrameTest::aRecordingChosenFromTheListGoesToTheView() {
     QVERIFY(program.prompt.shown.empty());
 }
 
-void CMainFrameTest::otherFilesWorksWithoutAClient() {
+void CMainFrameTest::otherFilesWorksWithoutAClientAndOpensAnySound() {
     DemoCopy root;
     fs::remove_all(root / "Other Files");
+    const QString qtSettings = QSettings(QSettings::UserScope, "QtProject").fileName();
+    QFile::remove(qtSettings);
     ProgramOnRoot program(root.path());
     CMainFrame& frame = program.frame();
     const auto demoRows = tableRows(root.path());
@@ -169,23 +171,8 @@ void CMainFrameTest::otherFilesWorksWithoutAClient() {
     QCOMPARE(frame.CurrentClient.Codigo, 99999);
     QCOMPARE(frame.windowTitle(), QString("default - Sonalys"));
     QCOMPARE(frame.f0Range, (F0Range{70, 1000}));
-    // Deleting in Other Files empties and removes the folder, and leaves the client table alone.
-    root.write("Other Files/voice.wav", "RIFF");
-    program.prompt.answers = {true};
-    frame.command(kDeleteClient)->trigger();
-    QVERIFY(!fs::exists(root / "Other Files"));
-    QCOMPARE(tableRows(root.path()), demoRows);
-}
-
-void CMainFrameTest::otherFilesOpensAnySoundAndTheDialogLeavesNoTrace() {
-    DemoCopy root;
+    // Any sound in the folder opens, from a file dialog that starts there and leaves no trace.
     fs::copy_file(root / "pac001/wv001.wav", root / "Other Files/voice.wav");
-    const QString qtSettings = QSettings(QSettings::UserScope, "QtProject").fileName();
-    QFile::remove(qtSettings);
-    ProgramOnRoot program(root.path());
-    CMainFrame& frame = program.frame();
-    inClientList(QString(), "otherFiles");
-    frame.command(kOpenClient)->trigger();
     const QString voice = QString::fromStdString((root / "Other Files/voice.wav").string());
     ModalDriver::whenModal([&](QWidget* modal) {
         auto* dialog = qobject_cast<QFileDialog*>(modal);
@@ -194,11 +181,15 @@ void CMainFrameTest::otherFilesOpensAnySoundAndTheDialogLeavesNoTrace() {
         QMetaObject::invokeMethod(dialog, "accept");
     });
     frame.command(kOpenRecording)->trigger();
-    // The view shows it as a file from anywhere, and the title names the file.
     QCOMPARE(frame.view()->loadedRecording().RecordingNumber, -1);
     QCOMPARE(frame.windowTitle(), QString("File - voice.wav - Sonalys"));
     QVERIFY(program.prompt.shown.empty());
     QVERIFY(!QFile::exists(qtSettings));
+    // Deleting in Other Files empties and removes the folder, and leaves the client table alone.
+    program.prompt.answers = {true};
+    frame.command(kDeleteClient)->trigger();
+    QVERIFY(!fs::exists(root / "Other Files"));
+    QCOMPARE(tableRows(root.path()), demoRows);
 }
 
 void CMainFrameTest::anUnknownTypeKeepsTheRange() {

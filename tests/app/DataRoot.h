@@ -1,12 +1,10 @@
 // Data roots for the shell's tests: a fresh folder with a client table made through the real table, clients in
-// it, their folders and recordings; and an independent reading of pacb.dbf's rows, straight from the bytes of the
-// published dBASE III layout, to check what the program left on disk.
+// it, their folders and recordings; and the table's rows read back.
 #pragma once
 
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -61,43 +59,21 @@ inline std::int64_t utcSeconds(int year, unsigned month, unsigned day) {
            86400;
 }
 
-struct DbfRow {
-    bool deleted;
-    std::string codigo;  // the field's bytes, blanks included
-    std::string nome;
-    std::string tipo;
-    std::string datanasc;
-};
-
-// Every row of a dBASE III file, read from its header: record count at byte 4, header and record lengths at 8
-// and 10, each record a delete flag and then CODIGO (4), NOME (60), TIPO (4), DATANASC (12), ...
-inline std::vector<DbfRow> readDbfRows(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    std::vector<DbfRow> rows;
-    if (bytes.size() < 32) return rows;
-    const auto u = [&](std::size_t at) { return static_cast<unsigned char>(bytes[at]); };
-    const std::uint32_t count = u(4) | (u(5) << 8) | (u(6) << 16) | (static_cast<std::uint32_t>(u(7)) << 24);
-    const std::size_t headerLength = u(8) | (u(9) << 8);
-    const std::size_t recordLength = u(10) | (u(11) << 8);
-    for (std::uint32_t i = 0; i < count; ++i) {
-        const std::size_t at = headerLength + i * recordLength;
-        if (at + recordLength > bytes.size()) break;
-        rows.push_back({bytes[at] == '*', bytes.substr(at + 1, 4), bytes.substr(at + 5, 60), bytes.substr(at + 65, 4),
-                        bytes.substr(at + 69, 12)});
-    }
-    return rows;
+// The client table's live rows, in order, as the table itself reads them back (its bytes on disk are the client
+// table's own tests' concern).
+inline std::vector<PacienteRecord> tableRecords(const std::filesystem::path& root) {
+    FakePrompt quiet;
+    CPacienteTable table(root, quiet);
+    table.SetFileName(std::string(kClientTableName));
+    table.LoadClients();
+    std::vector<PacienteRecord> records;
+    for (int i = 0; i < table.Count(); ++i) records.push_back(table.EntryAt(i)->record);
+    return records;
 }
 
-// The text of a field with its blank padding taken off the end.
-inline std::string trimmed(std::string text) {
-    while (!text.empty() && text.back() == ' ') text.pop_back();
-    return text;
-}
-
-// The names in the table's rows, in order, blanks taken off.
+// The names in the table's rows, in order.
 inline std::vector<std::string> tableNames(const std::filesystem::path& root) {
     std::vector<std::string> names;
-    for (const DbfRow& row : readDbfRows(root / "pacb.dbf")) names.push_back(trimmed(row.nome));
+    for (const PacienteRecord& record : tableRecords(root)) names.emplace_back(recordText(record.Nome));
     return names;
 }
