@@ -1036,6 +1036,8 @@ It was not possible to read additional information about the sound file!</source
     <message>
         <source>Show the long-term average spectrum</source>
         <translation>Mostrar el espectro promedio a largo plazo (LTAS)</translation>
+    </message>
+    <message>
         <source>11025 Hz</source>
         <translation>11025 Hz</translation>
     </message>

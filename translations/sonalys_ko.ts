@@ -1036,6 +1036,8 @@ It was not possible to read additional information about the sound file!</source
     <message>
         <source>Show the long-term average spectrum</source>
         <translation>장시간 평균 스펙트럼(LTAS) 표시</translation>
+    </message>
+    <message>
         <source>11025 Hz</source>
         <translation>11025 Hz</translation>
     </message>

@@ -1036,6 +1036,8 @@ Não foi possível ler as informações adicionais do arquivo de som!</translati
     <message>
         <source>Show the long-term average spectrum</source>
         <translation>Mostrar o espectro médio de longo termo (LTAS)</translation>
+    </message>
+    <message>
         <source>11025 Hz</source>
         <translation>11025 Hz</translation>
     </message>
