@@ -25,7 +25,7 @@ TEST(OpenOtherFile, StereoIsFoldedWithoutOverflowAndTakesAMonoFormat) {
     };
     const OtherFileOpening mixed = OpenOtherFile(recording, path, choose(StereoChoice::Mix), prompt);
     ASSERT_EQ(mixed.result, OtherFileResult::Opened);
-    EXPECT_EQ(mixed.title, "File - stereo-22050.wav");  // the name alone, not the folders
+    EXPECT_EQ(mixed.title, "File - stereo-22050.wav");                           // the name alone, not the folders
     EXPECT_EQ(samples(), (std::vector<std::int16_t>{0, -1, 32767, -32767, 7}));  // truncated toward zero
     EXPECT_EQ(*recording.format(), (WaveFormat{1, 1, 22050, 44100, 2, 16, 0, {}}));
     EXPECT_FALSE(recording.Modified);
