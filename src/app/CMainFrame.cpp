@@ -17,8 +17,8 @@
 #include "app/CAboutDlg.h"
 #include "app/CAbrirPaciente.h"
 #include "app/CAbrirSessao.h"
-#include "app/CConfGravar.h"
 #include "app/CConfF0.h"
+#include "app/CConfGravar.h"
 #include "app/CPaciente.h"
 #include "app/CVolume.h"
 #include "app/DesktopPrograms.h"
@@ -98,6 +98,9 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
 
 CMainFrame::~CMainFrame() {
     m_view->setAudioEngines(nullptr, nullptr);
+    // The wave line holds the playback stream's volume: it goes before the device does.
+    delete m_mixer;
+    m_mixer = nullptr;
     // A stream closed just before the end must be answered by the sound server before the process goes.
     const bool soundUsed = m_recorder->finishState() != 0 || m_recorder->deviceOpen() || m_player->deviceOpen();
     m_player.reset();
@@ -113,6 +116,7 @@ void CMainFrame::createAudioEngines() {
     m_recorder = std::make_unique<WaveRecorder>(*m_waveIn, m_prompt, m_home);
     m_player = std::make_unique<WavePlayer>(*m_waveOut, m_prompt);
     m_view->setAudioEngines(m_recorder.get(), m_player.get());
+    m_mixer->SetPlaybackStream(*m_waveOut);
     // The Update Rate left by a recording that never ended.
     m_view->spectrogramPanel()->SetUpdateRateIndex(RememberedUpdateRateIndex);
 }

@@ -42,6 +42,8 @@ public:
     bool formantsChecked() const;
     bool spectrogramChecked() const;
     QCheckBox* spectrogramBox() const { return m_spectrogram; }
+    QCheckBox* f0Box() const { return m_f0; }
+    QCheckBox* formantsBox() const { return m_formants; }
 
     // The range the spectrogram uses: the pointer's last value (70 until it moves), or 0 with "Spectrogram" off.
     int dynamicRange() const;

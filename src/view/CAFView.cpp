@@ -362,7 +362,7 @@ void CAFView::DrawLiveBlock(std::span<const std::int16_t> block) {
             m_liveColumn = std::min(m_liveColumn + 1, m_picture.size().width() - 1);
         }
         m_liveTrace.addBlock(block);
-        if (m_showF0) estimateLiveF0();
+        if (f0Shown()) estimateLiveF0();
     } else {
         // A short block is too short for a spectrum of its own: the start of the ring stands in for it.
         const std::span<const std::int16_t> ring = m_spectrogramObject.ring();

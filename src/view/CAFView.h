@@ -118,8 +118,8 @@ public:
     // and drawn; hidden, it is removed and the other overlay stays. Every redraw of the page draws the shown ones.
     void RedrawF0(bool show);
     void RedrawFormants(bool show);
-    bool f0Shown() const { return m_showF0; }
-    bool formantsShown() const { return m_showFormants; }
+    bool f0Shown() const;
+    bool formantsShown() const;
     const F0Track& f0Track() const { return m_f0Track; }
     const FormantTrack& formantTrack() const { return m_formantTrack; }
     // Where the F0 scale's range comes from: the main window's setting; until one is given, the range at start.
@@ -180,6 +180,9 @@ public:
     CMyBarra2* spectrumPanel() const { return m_spectrumPanel; }
     // The single capture and playback engines, owned by the main window; none in a view on its own.
     void setAudioEngines(WaveRecorder* recorder, WavePlayer* player);
+    // The record format chosen with the panel's rate button (an index of the record-format table: 3, 5 or 7 from
+    // the button): the recorder takes it, and the live pages follow its rate.
+    void SetRecordFormat(int index);
     // Captured buffers are thrown away while this is set: an open list or a recomputation holds the window.
     bool RecordPaused = false;
     bool isPlaying() const override { return Playing; }
@@ -251,6 +254,7 @@ private:
     // their changes does to the pictures.
     void createPanels();
     void placePanels();
+    void openRateMenu(ClassAux& panel);
     void applyPanelOfPage();
     void redrawKeepingSelection();
     void onSpectrogramChange();
@@ -302,8 +306,6 @@ private:
     FormantTracker m_formantObject{m_curvePrompt};
     F0Track m_f0Track;
     FormantTrack m_formantTrack;
-    bool m_showF0 = false;
-    bool m_showFormants = false;
     bool m_computingCurves = false;
     std::function<F0Range()> m_f0RangeSource;
     float m_f0Readout = 0.0f;  // Hz; 0 shows a blank read-out

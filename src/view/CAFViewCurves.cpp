@@ -2,31 +2,48 @@
 // spectrogram page so that removing one is a copy of the page without them.
 #include <algorithm>
 
+#include <QCheckBox>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QThread>
 
 #include "controls/UiText.h"
+#include "panels/CMyBarra.h"
 #include "view/CAFView.h"
 #include "view/DisplayModeRules.h"
 #include "view/GraphCaptions.h"
 #include "view/WaitCursor.h"
 
+// Whether a curve is shown is read from its box on the spectrogram panel and nowhere else; a call from elsewhere
+// (a dialog, a test) moves the box without it calling back.
+namespace {
+
+void setBoxQuietly(QCheckBox* box, bool on) {
+    const QSignalBlocker quiet(box);
+    box->setChecked(on);
+}
+
+}  // namespace
+
+bool CAFView::f0Shown() const { return m_spectrogramPanel != nullptr && m_spectrogramPanel->f0Checked(); }
+bool CAFView::formantsShown() const { return m_spectrogramPanel != nullptr && m_spectrogramPanel->formantsChecked(); }
+
 void CAFView::RedrawF0(bool show) {
-    m_showF0 = show;
+    setBoxQuietly(m_spectrogramPanel->f0Box(), show);
     if (show) ensureCurves();
     drawOverlays();
     update();
 }
 
 void CAFView::RedrawFormants(bool show) {
-    m_showFormants = show;
+    setBoxQuietly(m_spectrogramPanel->formantsBox(), show);
     if (show) ensureCurves();
     drawOverlays();
     update();
 }
 
 void CAFView::F0RangeChanged() {
-    if (!m_showF0 || !isSpectrogramPage(m_displayMode)) return;
+    if (!f0Shown() || !isSpectrogramPage(m_displayMode)) return;
     drawOverlays();
     update();
 }
@@ -42,8 +59,8 @@ void CAFView::invalidateCurves() {
 // formants are shown only where it finds a voice. The window repaints meanwhile; input waits.
 void CAFView::ensureCurves() {
     if (m_computingCurves || !overlaysApply()) return;
-    const bool needF0 = (m_showF0 || m_showFormants) && !m_f0Track.valid;
-    const bool needFormants = m_showFormants && !m_formantTrack.valid;
+    const bool needF0 = (f0Shown() || formantsShown()) && !m_f0Track.valid;
+    const bool needFormants = formantsShown() && !m_formantTrack.valid;
     if (!needF0 && !needFormants) return;
     m_computingCurves = true;
     WaitCursor wait;
@@ -95,10 +112,10 @@ QPoint f0ReadoutPoint(const ViewLayout& layout) { return QPoint(layout.graphRigh
 // The page as rebuilt, with the overlays of the spectrogram page over it: the read-out, and the shown curves.
 void CAFView::drawOverlays() {
     m_savedGraph = m_backBitmap;
-    if (!isSpectrogramPage(m_displayMode) || m_computing || (!m_showF0 && !m_showFormants)) return;
+    if (!isSpectrogramPage(m_displayMode) || m_computing || (!f0Shown() && !formantsShown())) return;
     QPainter painter(&m_savedGraph);
     painter.setTransform(m_layout.toWidget(QSizeF(size())));
-    if (m_showF0 && m_f0Readout > 0.0f) {
+    if (f0Shown() && m_f0Readout > 0.0f) {
         DrawF0Readout(painter, f0ReadoutPoint(m_layout), m_f0Readout, QColor::fromRgb(kTextRowColour));
     } else {
         BlankReadout(painter, f0ReadoutPoint(m_layout), QColor::fromRgb(kTextRowColour));
@@ -113,11 +130,11 @@ void CAFView::drawCurves(QPainter& painter) {
     const QRect graph = m_layout.pictureRect();
     const auto total = static_cast<std::int64_t>(m_recording.SampleCount());
     const int scheme = m_spectrogramSettings.colourScheme;
-    if (m_showFormants && samples) {
+    if (formantsShown() && samples) {
         const double upperHz = m_spectrogramObject.sampleRate() * 0.5 / m_spectrogramObject.zoom();
         DrawFormants(painter, graph, m_formantTrack, total, upperHz, m_firstShown, m_lastShown, scheme, m_f0Track);
     }
-    if (m_showF0) {
+    if (f0Shown()) {
         const F0Range range = f0Range();
         if (samples) DrawF0(painter, graph, m_f0Track, total, m_firstShown, m_lastShown, range, scheme);
         DrawF0Axis(painter, F0AxisX(m_layout.GraphLeft, m_layout.GraphWidth, m_layout.LargeLayout), m_layout.GraphTop,

@@ -1,10 +1,13 @@
 // The view's side of the two side panels: where they stand, and what each change on them does to the pictures.
 #include <cmath>
 
+#include <QToolButton>
+
 #include "audio/WavePlayer.h"
 #include "audio/WaveRecorder.h"
 #include "panels/CMyBarra.h"
 #include "panels/CMyBarra2.h"
+#include "panels/CTaxaGravaMenu.h"
 #include "view/CAFView.h"
 #include "view/DisplayModeRules.h"
 
@@ -21,11 +24,14 @@ void CAFView::createPanels() {
         panel->hide();
         panel->setAudio(this);
         connect(panel, &ClassAux::updateRateChanged, this, &CAFView::onUpdateRate);
+        connect(panel, &ClassAux::rateClicked, this, [this, panel] { openRateMenu(*panel); });
     }
     connect(m_spectrogramPanel, &CMyBarra::bandChanged, this, &CAFView::onBand);
     connect(m_spectrogramPanel, &ClassAux::limitChanged, this, &CAFView::onSpectrogramLimit);
     connect(m_spectrogramPanel, &CMyBarra::dynamicRangeChanged, this, &CAFView::onDynamicRange);
     connect(m_spectrogramPanel, &CMyBarra::colourSchemeChanged, this, &CAFView::onColourScheme);
+    connect(m_spectrogramPanel, &CMyBarra::f0Toggled, this, &CAFView::RedrawF0);
+    connect(m_spectrogramPanel, &CMyBarra::formantsToggled, this, &CAFView::RedrawFormants);
     connect(m_spectrumPanel, &ClassAux::limitChanged, this, &CAFView::onSpectrumLimit);
     connect(m_spectrumPanel, &CMyBarra2::fftSizeChanged, this, &CAFView::onFftSize);
     connect(m_spectrumPanel, &CMyBarra2::styleChanged, this, &CAFView::onSpectrumStyle);
@@ -46,6 +52,23 @@ ClassAux* CAFView::ActivePanel() const {
 void CAFView::setAudioEngines(WaveRecorder* recorder, WavePlayer* player) {
     m_recorder = recorder;
     m_player = player;
+}
+
+void CAFView::openRateMenu(ClassAux& panel) {
+    auto* menu = new CTaxaGravaMenu(static_cast<int>(m_recordFormat.nSamplesPerSec), this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu, &CTaxaGravaMenu::formatChosen, this, &CAFView::SetRecordFormat);
+    menu->popUpUnder(*panel.RateButton());
+}
+
+void CAFView::SetRecordFormat(int index) {
+    if (m_recorder != nullptr) m_recorder->SetFormat(index);
+    WaveWriter format;
+    format.SetRecordFormat(index);
+    m_recordFormat = format.format;
+    if (!isLiveMode(m_displayMode)) return;
+    applyRate(rate());
+    RedrawAll();
 }
 
 void CAFView::PausePlay() {

@@ -261,6 +261,16 @@ void SidePanelsTest::panelChangesReachTheViewsSettings() {
     QCOMPARE(view.spectrumObject().fftSize(), 1024);
     spectrum.LtasBox()->click();
     QVERIFY(view.spectrumSettings().ltas);
+    // The F0 box alone says whether the curve is shown: a click shows it, and the view's own call moves the box.
+    spectrogram.f0Box()->click();
+    QVERIFY(view.f0Shown());
+    view.RedrawF0(false);
+    QVERIFY(!spectrogram.f0Checked());
+    // A rate from the rate button reaches the live page: 44100 Hz offers six upper frequencies where 11025 had three.
+    view.ShowSpectrogramPage();
+    QCOMPARE(spectrogram.LimitBox()->count(), 3);
+    view.SetRecordFormat(7);
+    QCOMPARE(spectrogram.LimitBox()->count(), 6);
 }
 
 void SidePanelsTest::picturesOfEachPanelOnItsPage_data() {
