@@ -26,15 +26,18 @@ struct ListOnRoot {
 class CAbrirPacienteTest : public QObject {
     Q_OBJECT
 private slots:
-    void searchFindsTheFirstNameBeginningWithTheText();
-    void commandsWithoutAChoiceSaySo();
+    void withoutAChoiceCommandsSaySoAndSearchFindsTheFirstNameBeginningWithTheText();
     void deleteAsksFirstAndAnUnknownFileKeepsTheFolder();
 };
 
-void CAbrirPacienteTest::searchFindsTheFirstNameBeginningWithTheText() {
+void CAbrirPacienteTest::withoutAChoiceCommandsSaySoAndSearchFindsTheFirstNameBeginningWithTheText() {
     ListOnRoot on({{1, "Joana"}, {2, "Mariana"}, {3, "ANTONIO"}, {4, "Ana"}});
     auto& [root, program, dialog] = on;
     QCOMPARE(dialog.windowTitle(), QString("Select a Client"));
+    // Without a choice the commands that need one say so.
+    dialog.personalInformation();
+    dialog.deleteClient();
+    QCOMPARE(program.prompt.shown, std::vector<std::string>(2, "You need to select a Item!"));
     auto* search = dialog.findChild<QLineEdit*>("search");
     QTest::keyClicks(search, "an");
     QTest::keyClick(search, Qt::Key_Return);
@@ -46,15 +49,6 @@ void CAbrirPacienteTest::searchFindsTheFirstNameBeginningWithTheText() {
     search->clear();
     button(dialog, "searchButton")->click();
     QCOMPARE(program.prompt.last(), std::string("Type the Client´s name you want to search!"));
-}
-
-void CAbrirPacienteTest::commandsWithoutAChoiceSaySo() {
-    ListOnRoot on({{1, "Ana"}});
-    auto& [root, program, dialog] = on;
-    QVERIFY(!button(dialog, "open")->isEnabled());
-    dialog.personalInformation();
-    dialog.deleteClient();
-    QCOMPARE(program.prompt.shown, std::vector<std::string>(2, "You need to select a Item!"));
 }
 
 void CAbrirPacienteTest::deleteAsksFirstAndAnUnknownFileKeepsTheFolder() {
