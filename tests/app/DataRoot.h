@@ -16,7 +16,6 @@ struct ClientSpec {
     int code;
     std::string name;
     int tipo = 0;
-    std::string birth = {};  // eight digits month, day, year, or empty
 };
 
 inline PacienteRecord makeRecord(const ClientSpec& client) {
@@ -24,7 +23,6 @@ inline PacienteRecord makeRecord(const ClientSpec& client) {
     record.Codigo = client.code;
     setRecordText(record.Nome, client.name);
     record.Tipo = client.tipo;
-    setRecordText(record.DataNasc, client.birth);
     return record;
 }
 
@@ -51,12 +49,9 @@ public:
 };
 
 // Seconds since 1970 at midnight UTC of a calendar day.
-inline std::int64_t utcSeconds(int year, unsigned month, unsigned day) {
+inline std::int64_t utcSeconds(int year, int month, int day) {
     using namespace std::chrono;
-    return sys_days{std::chrono::year{year} / std::chrono::month{month} / std::chrono::day{day}}
-               .time_since_epoch()
-               .count() *
-           86400;
+    return sys_seconds{sys_days{std::chrono::year{year} / month / day}}.time_since_epoch().count();
 }
 
 // The client table's live rows, in order, as the table itself reads them back (its bytes on disk are the client

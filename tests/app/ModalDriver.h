@@ -4,10 +4,7 @@
 
 #include <functional>
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QDialog>
-#include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
@@ -27,19 +24,5 @@ public:
             act(modal);
         });
         timer->start();
-    }
-    // Answers the next message box with `button`, after noting its title and text.
-    static void answerMessageBox(QMessageBox::StandardButton button, QString* title = nullptr,
-                                 QString* text = nullptr) {
-        whenModal([=](QWidget* modal) {
-            auto* box = qobject_cast<QMessageBox*>(modal);
-            if (box == nullptr) {
-                modal->close();
-                return;
-            }
-            if (title != nullptr) *title = box->windowTitle();
-            if (text != nullptr) *text = box->text();
-            box->button(button)->click();
-        });
     }
 };

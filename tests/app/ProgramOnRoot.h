@@ -13,15 +13,11 @@ struct ProgramOnRoot {
     FakePrompt prompt;
     std::unique_ptr<CAFApp> app;
 
-    explicit ProgramOnRoot(const std::filesystem::path& root, LanguageId language = LanguageId::English) {
+    explicit ProgramOnRoot(const std::filesystem::path& root) {
         app = std::make_unique<CAFApp>(root, prompt);
         app->startProgram = [](const QString&, const QStringList&) { return false; };
         app->makeVolume = nullptr;  // the machine's own sound server is left alone
         app->InitInstance({"sonalys", "-Embedding"});
-        if (language != LanguageId::English) {
-            app->setLanguageId(language);
-            app->SetLanguage();
-        }
     }
     CMainFrame& frame() const { return *app->mainFrame(); }
 };

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 #include "TempDir.h"
@@ -17,30 +18,36 @@ std::string le32(std::uint32_t v) {
 
 }  // namespace
 
-TEST(SettingsFiles, MissingOrShortFilesGiveTheirDefaults) {
-    TempDir home;
-    EXPECT_EQ(ReadLanguage(home.path()), LanguageId::Korean);
-    EXPECT_EQ(ReadScreenMode(home.path()), 4);
-    EXPECT_EQ(ReadRecordInput(home.path(), 0), 0);
-    EXPECT_EQ(ReadRecordInput(home.path(), 1), 1);  // a missing cfr.dat leaves the input as it was
-    home.write("lang.dat", std::string("\x00\x00", 2));
-    home.write("conf.dat", "");
-    EXPECT_EQ(ReadLanguage(home.path()), LanguageId::Korean);
-    EXPECT_EQ(ReadScreenMode(home.path()), 4);
-}
-
-TEST(SettingsFiles, IntegersAreLittleEndianWithNoHeader) {
+TEST(SettingsFiles, EachHoldsOneLittleEndianIntegerOrGivesItsDefault) {
+    // Each file with its bytes (or none: the file is absent) and the value read back; cfr.dat's default is the
+    // input in force, here 7.
+    const struct {
+        const char* file;
+        std::optional<std::string> bytes;
+        int read;
+    } rows[] = {
+        {"lang.dat", std::nullopt, 2},
+        {"lang.dat", std::string("\x00\x00", 2), 2},
+        {"lang.dat", le32(0x01000000u), 16777216},  // a big-endian 1 would read as 1
+        {"conf.dat", std::nullopt, 4},
+        {"conf.dat", "", 4},
+        {"conf.dat", le32(3), 3},
+        {"conf.dat", le32(0xFFFFFFFFu), -1},  // signed
+        {"cfr.dat", std::nullopt, 7},
+        {"cfr.dat", le32(1), 1},
+    };
+    for (const auto& row : rows) {
+        TempDir home;
+        if (row.bytes) home.write(row.file, *row.bytes);
+        const std::string file = row.file;
+        const int read = file == "lang.dat"   ? static_cast<int>(ReadLanguage(home.path()))
+                         : file == "conf.dat" ? ReadScreenMode(home.path())
+                                              : ReadRecordInput(home.path(), 7);
+        EXPECT_EQ(read, row.read) << row.file << " " << row.bytes.value_or("absent").size();
+    }
     TempDir home;
     ASSERT_TRUE(WriteLanguage(home.path(), LanguageId::Korean));
     EXPECT_EQ(home.read("lang.dat"), le32(2));
-    home.write("conf.dat", le32(3));
-    home.write("cfr.dat", le32(1));
-    EXPECT_EQ(ReadScreenMode(home.path()), 3);
-    EXPECT_EQ(ReadRecordInput(home.path(), 0), 1);
-    home.write("conf.dat", le32(0xFFFFFFFFu));  // signed: -1
-    EXPECT_EQ(ReadScreenMode(home.path()), -1);
-    home.write("lang.dat", le32(0x01000000u));  // a big-endian 1 would read as 16777216
-    EXPECT_EQ(static_cast<int>(ReadLanguage(home.path())), 16777216);
 }
 
 TEST(ScreenCheck, SizesAndColoursDecideTheStartAndModesBelowFourNameAFixedSize) {
