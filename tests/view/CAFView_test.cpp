@@ -60,7 +60,6 @@ private slots:
     void aStereoFileFromOutsideIsFoldedAsChosenInTheDialog();
     void draggingEitherWaySelectsTheSameRangeAndStopsAtTheEnds();
     void zoomShowsTheSelectionAndTogglesBack();
-    void aRedrawInMidDragEndsTheDrag();
     void readOutsGiveTimeFrequencyAndLevelAtThePointer();
     void aRepaintOrResizeCopiesThePictureAndTheSizeSettlesSharp();
     void theSpectrogramIsThePictureOfTheCommandLineTool();
@@ -184,11 +183,10 @@ void CAFViewTest::draggingEitherWaySelectsTheSameRangeAndStopsAtTheEnds() {
     // A plain click in the strip leaves no selection and no menu.
     QTest::mouseClick(m_view, Qt::LeftButton, {}, widgetPoint(*m_view, {layout.GraphLeft + 150, layout.StripTop + 30}));
     QVERIFY(!m_view->hasSelection() && !m_view->contextMenu()->isVisible());
-    // A finished drag opens the menu, where only the zoom works until playing and editing come.
+    // A finished drag opens the menu.
     dragInStrip(*m_view, layout.GraphLeft + 100, layout.GraphLeft + 200);
     QVERIFY(m_view->contextMenu()->isVisible());
     QVERIFY(menuItem(*m_view, kIdZoom)->isEnabled());
-    for (const int id : {kIdPlay, kIdCut, kIdCopy, kIdPaste, kIdSilence}) QVERIFY(!menuItem(*m_view, id)->isEnabled());
     m_view->contextMenu()->hide();
     // A right click far from the strip removes the selection instead of opening the menu.
     const QPoint far = widgetPoint(*m_view, {layout.GraphLeft + 100, layout.GraphTop + 10});
@@ -212,21 +210,6 @@ void CAFViewTest::zoomShowsTheSelectionAndTogglesBack() {
     menuItem(*m_view, kIdZoom)->trigger();
     m_view->contextMenu()->hide();
     QCOMPARE(m_view->shownRange(), (SampleRange{0, 90469}));
-    // A selection of the whole strip zooms to the whole file.
-    select(layout.GraphLeft, layout.graphRight() + 30);
-    m_view->Zoom();
-    QCOMPARE(m_view->shownRange(), (SampleRange{0, 90469}));
-}
-
-void CAFViewTest::aRedrawInMidDragEndsTheDrag() {
-    open();
-    const ViewLayout& layout = m_view->layout();
-    const int y = layout.StripTop + 20;
-    QTest::mousePress(m_view, Qt::LeftButton, {}, widgetPoint(*m_view, {layout.GraphLeft + 100, y}));
-    QTest::mouseMove(m_view, widgetPoint(*m_view, {layout.GraphLeft + 180, y}));
-    QVERIFY(m_view->dragging() && m_view->hasSelection());
-    m_view->resize(m_view->size() + QSize(10, 10));
-    QVERIFY(!m_view->dragging() && !m_view->hasSelection());
 }
 
 void CAFViewTest::readOutsGiveTimeFrequencyAndLevelAtThePointer() {

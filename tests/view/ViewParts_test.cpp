@@ -20,12 +20,10 @@ using M = DisplayMode;
 class ViewPartsTest : public QObject {
     Q_OBJECT
 private slots:
-    void theSmallLayoutServesScreensExactly800WideOr600High();
-    void theLargeLayoutMovesByHalfTheSizeAboveTheReference();
+    void theLayoutIsSmallUpTo800By600AndOtherwiseMovesByHalfTheSizeAbove1024By768();
     void thePageKeepsItsShapeCentredAndPositionsMapBack();
     void stripSamplesStayInsideTheStripAtBothExtremes();
     void eachStripColumnTakesEightPointsAtEvenFractionsAndMissesWhatLiesBetween();
-    void aRangeShorterThanTheStripRepeatsSamples();
     void theLiveTraceKeepsTheNewestPointsFromTheLeft();
     void theStripFrameIsWhiteWithAnOutlineAndThreeGuideLines();
     void theDurationSplitsMinutesAboveAMinuteAndNeverShowsHours();
@@ -35,38 +33,32 @@ private slots:
     void aSelectionBecomesARangeOfSamples();
     void commandsAreEnabledAndCheckedByTheState();
     void theDisplayModeMovesByOpeningTheCommandsAndRecording();
-    void anUnknownModeIsShownAndDrawsBlack();
 
 private:
     const ViewLayout m_small = ViewLayout::forScreen({800, 600});  // graph 92 + 671, 100 + 300; strip 445 to 495
 };
 
-void ViewPartsTest::theSmallLayoutServesScreensExactly800WideOr600High() {
-    // One of the two tests suffices: 800 x 1024 and 1024 x 600 are small too.
-    for (const QSize screen : {QSize(800, 600), QSize(800, 1024), QSize(1024, 600)}) {
+void ViewPartsTest::theLayoutIsSmallUpTo800By600AndOtherwiseMovesByHalfTheSizeAbove1024By768() {
+    // Small when either side is at most 800 wide or 600 high. The large one moves by half the size above 1024 x 768,
+    // truncated, never by less than 0; the read-out row does not move down.
+    const std::pair<QSize, QList<int>> rows[] = {
+        // LargeLayout, GraphLeft, GraphWidth, GraphTop, GraphHeight, StripTop, StripHeight, TitleTop, TitleHeight,
+        // PanelSplit
+        {{800, 600}, {0, 92, 671, 100, 300, 100 + 300 + 45, 50, 50, 35, 400}},
+        {{800, 1024}, {0, 92, 671, 100, 300, 445, 50, 50, 35, 400}},
+        {{1024, 600}, {0, 92, 671, 100, 300, 445, 50, 50, 35, 400}},
+        {{801, 601}, {1, 140, 800, 150, 300, 495, 70, 70, 60, 500}},
+        {{1024, 768}, {1, 140, 800, 150, 300, 495, 70, 70, 60, 500}},
+        {{1920, 1080}, {1, 140 + 448, 800, 150 + 156, 300, 495 + 156, 70, 70, 60, 500 + 448}},
+        {{1281, 1025}, {1, 140 + 128, 800, 150 + 128, 300, 495 + 128, 70, 70, 60, 500 + 128}},
+    };
+    for (const auto& [screen, expected] : rows) {
         const ViewLayout l = ViewLayout::forScreen(screen);
-        QVERIFY(!l.LargeLayout);
-        QCOMPARE(QList<int>({l.GraphLeft, l.GraphWidth, l.GraphTop, l.GraphHeight, l.StripTop, l.StripHeight,
-                             l.TitleTop, l.TitleHeight, l.PanelSplit}),
-                 QList<int>({92, 671, 100, 300, 100 + 300 + 45, 50, 50, 35, 400}));
-        QCOMPARE(l.verticalStretch(), 1.0);
+        QCOMPARE(QList<int>({l.LargeLayout, l.GraphLeft, l.GraphWidth, l.GraphTop, l.GraphHeight, l.StripTop,
+                             l.StripHeight, l.TitleTop, l.TitleHeight, l.PanelSplit}),
+                 expected);
     }
-    QVERIFY(ViewLayout::forScreen({801, 601}).LargeLayout);
-}
-
-void ViewPartsTest::theLargeLayoutMovesByHalfTheSizeAboveTheReference() {
-    const ViewLayout r = ViewLayout::forScreen({1024, 768});
-    QVERIFY(r.LargeLayout);
-    QCOMPARE(QList<int>({r.GraphLeft, r.GraphWidth, r.GraphTop, r.StripTop, r.StripHeight, r.TitleTop, r.TitleHeight,
-                         r.PanelSplit}),
-             QList<int>({140, 800, 150, 495, 70, 70, 60, 500}));
-    // Offsets 448 and 156; the read-out row does not move down.
-    const ViewLayout w = ViewLayout::forScreen({1920, 1080});
-    QCOMPARE(QList<int>({w.GraphLeft, w.GraphTop, w.StripTop, w.PanelSplit, w.TitleTop}),
-             QList<int>({588, 306, 306 + 345, 948, 70}));
-    const ViewLayout smaller = ViewLayout::forScreen({1000, 700});  // negative offsets are 0
-    QCOMPARE(QList<int>({smaller.XOffset, smaller.YOffset, smaller.GraphLeft}), QList<int>({0, 0, 140}));
-    QCOMPARE(ViewLayout::forScreen({1281, 1025}).GraphLeft, 140 + 128);  // 257 x 0.5, truncated
+    QCOMPARE(m_small.verticalStretch(), 1.0);
 }
 
 void ViewPartsTest::thePageKeepsItsShapeCentredAndPositionsMapBack() {
@@ -104,15 +96,6 @@ void ViewPartsTest::eachStripColumnTakesEightPointsAtEvenFractionsAndMissesWhatL
         QCOMPARE(trace[i].x(), m_small.GraphLeft + i / 8);
         QCOMPARE(trace[i].y(), i == 5 * 8 + 3 ? 494 : 470);
     }
-}
-
-void ViewPartsTest::aRangeShorterThanTheStripRepeatsSamples() {
-    std::vector<std::int16_t> samples(1000, 0);
-    for (int i = 0; i < 1000; ++i) samples[i] = static_cast<std::int16_t>(i * 30);
-    // 100 samples over 671 columns: 0.149 of a sample a column, so every point of columns 0 to 6 is sample 500.
-    const QPolygon trace = StripTrace(m_small, samples, 500, 600);
-    for (int i = 0; i < 7 * 8; ++i) QCOMPARE(trace[i].y(), StripY(m_small, 15000.0f));
-    QCOMPARE(trace[7 * 8].y(), StripY(m_small, 15030.0f));  // column 7: 7 x 0.149 = 1.04
 }
 
 void ViewPartsTest::theLiveTraceKeepsTheNewestPointsFromTheLeft() {
@@ -261,10 +244,6 @@ void ViewPartsTest::commandsAreEnabledAndCheckedByTheState() {
 }
 
 void ViewPartsTest::theDisplayModeMovesByOpeningTheCommandsAndRecording() {
-    // Opening keeps the power-spectrum page and otherwise shows the spectrogram.
-    QCOMPARE(ModeAfterOpening(M::ModeEmpty), M::FileSpectrogramMode);
-    QCOMPARE(ModeAfterOpening(M::LiveSpectrumMode), M::FileSpectrumMode);
-    QCOMPARE(ModeAfterShowSpectrum(false), M::LiveSpectrumMode);
     QCOMPARE(ModeAfterShowSpectrogram(M::LiveSpectrogramMode, true), M::LiveSpectrogramMode);  // nothing happens
     QCOMPARE(ModeAfterShowSpectrogram(M::FileSpectrumMode, true), M::FileSpectrogramMode);
     QCOMPARE(ModeAfterShowSpectrogram(M::ModeEmpty, false), M::LiveSpectrogramMode);
@@ -273,13 +252,6 @@ void ViewPartsTest::theDisplayModeMovesByOpeningTheCommandsAndRecording() {
     QCOMPARE(ModeAfterStartRecording(M::FileSpectrumMode, M::ModeEmpty), M::LiveSpectrumMode);
     QCOMPARE(ModeAfterStartRecording(M::ModeEmpty, M::FileSpectrumMode), M::FileSpectrumMode);
     QCOMPARE(ModeAfterStopRecording(M::LiveSpectrumMode), M::FileSpectrumMode);
-}
-
-void ViewPartsTest::anUnknownModeIsShownAndDrawsBlack() {
-    FakePrompt prompt;
-    for (const M mode : {M::LiveSpectrogramMode, M::FileSpectrumMode, M::ModeEmpty, static_cast<M>(5)})
-        QCOMPARE(TraceColour(mode, prompt), QColor(Qt::black));
-    QCOMPARE(prompt.shown, std::vector<std::string>{"Invalid Function!"});
 }
 
 QTEST_MAIN(ViewPartsTest)

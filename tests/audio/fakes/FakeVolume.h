@@ -1,6 +1,5 @@
-// A scripted mixer line: the test decides whether the line exists, its range and its channels' levels, and sees
-// every level written; a change from outside is made with changeFromOutside. ScriptedMixer makes such lines for the
-// frame, the input line only for the inputs it lists.
+// A scripted mixer line: the test sets whether it exists, its range and channels' levels, and sees every level written.
+// ScriptedMixer makes such lines for the frame, the input line only for the inputs it lists.
 #pragma once
 
 #include <algorithm>
@@ -18,9 +17,7 @@ public:
     int maximum = 65535;
     std::vector<int> levels{0};            // one per channel
     std::vector<std::vector<int>> writes;  // every level set, channel by channel
-    bool readFails = false;
 
-    FakeVolume() = default;
     FakeVolume(int minimumLevel, int maximumLevel, std::vector<int> channelLevels)
         : minimum(minimumLevel), maximum(maximumLevel), levels(std::move(channelLevels)) {}
 
@@ -34,7 +31,7 @@ protected:
         info = {minimum, maximum, static_cast<int>(levels.size())};
         return found;
     }
-    std::vector<int> readLevels() override { return readFails ? std::vector<int>{} : levels; }
+    std::vector<int> readLevels() override { return levels; }
     bool writeLevels(const std::vector<int>& channelLevels) override {
         writes.push_back(channelLevels);
         levels = channelLevels;

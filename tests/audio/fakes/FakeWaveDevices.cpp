@@ -7,41 +7,23 @@
 int FakeWaveInDevice::start() {
     if (const int result = scripted("start")) return result;
     if (!m_open) return MMSYSERR_INVALHANDLE;
-    started = true;
-    deliver();
+    m_started = true;
     return MMSYSERR_NOERROR;
 }
 
 void FakeWaveInDevice::capture(std::span<const std::uint8_t> bytes) {
-    m_waiting.insert(m_waiting.end(), bytes.begin(), bytes.end());
-    if (started) deliver();
-}
-
-void FakeWaveInDevice::deliver() {
-    std::size_t used = 0;
-    while (!m_queue.empty() && used < m_waiting.size()) {
+    while (m_started && !m_queue.empty() && !bytes.empty()) {
         WaveHeader& header = *m_queue.front();
-        const std::size_t take =
-            std::min<std::size_t>(header.dwBufferLength - header.dwBytesRecorded, m_waiting.size() - used);
-        std::memcpy(header.lpData + header.dwBytesRecorded, m_waiting.data() + used, take);
+        const std::size_t take = std::min<std::size_t>(header.dwBufferLength - header.dwBytesRecorded, bytes.size());
+        std::memcpy(header.lpData + header.dwBytesRecorded, bytes.data(), take);
         header.dwBytesRecorded += static_cast<std::uint32_t>(take);
-        used += take;
-        if (header.dwBytesRecorded < header.dwBufferLength) break;
-        handBackFirst();
+        bytes = bytes.subspan(take);
+        if (header.dwBytesRecorded == header.dwBufferLength) handBackFirst();
     }
-    if (m_queue.empty()) used = m_waiting.size();  // nowhere to put the rest
-    m_waiting.erase(m_waiting.begin(), m_waiting.begin() + static_cast<std::ptrdiff_t>(used));
-}
-
-int FakeWaveOutDevice::toggle(const char* call, bool pause) {
-    calls.emplace_back(call);
-    if (!m_open) return MMSYSERR_INVALHANDLE;
-    paused = pause;
-    return MMSYSERR_NOERROR;
 }
 
 void FakeWaveOutDevice::play(std::size_t headers) {
-    while (headers-- > 0 && !paused && !m_queue.empty()) {
+    while (headers-- > 0 && !m_queue.empty()) {
         const WaveHeader& header = *m_queue.front();
         sounded.insert(sounded.end(), header.lpData, header.lpData + header.dwBufferLength);
         handBackFirst();

@@ -1,9 +1,7 @@
-// Scripted stand-ins for the sound devices. A test scripts the result of a coming call, makes sound arrive (or
-// buffers finish playing) when it chooses, and reads back every call in order. Events travel through the event loop
-// exactly as the real devices' do; pumpDeviceEvents() delivers them.
+// Scripted sound devices: a test scripts the result of a coming call, makes sound arrive or buffers finish playing when
+// it chooses, and reads back every call in order. Events travel through the event loop as the real devices' do.
 #pragma once
 
-#include <QObject>
 #include <algorithm>
 #include <cstdint>
 #include <deque>
@@ -31,7 +29,6 @@ class FakeWaveDevice : public Device {
 public:
     std::vector<std::string> calls;            // "open", "prepare", "add" or "write", "reset", "close", ...
     std::vector<std::uint32_t> queuedLengths;  // dwBufferLength of every buffer queued, in order
-    WaveFormat openedFormat;
 
     // The `nth` coming call of `call` returns `result`; calls not scripted succeed.
     void failAt(const std::string& call, int nth, int result) {
@@ -39,12 +36,11 @@ public:
         if (static_cast<int>(results.size()) < nth) results.resize(static_cast<std::size_t>(nth), MMSYSERR_NOERROR);
         results[static_cast<std::size_t>(nth - 1)] = result;
     }
-    int open(const WaveFormat& format, Events& events) override {
+    int open(const WaveFormat&, Events& events) override {
         if (const int result = scripted("open")) return result;
         if (m_open) return MMSYSERR_ALLOCATED;
         m_open = true;
         m_target = &events;
-        openedFormat = format;
         stopped();
         post(DeviceEventQueue::Kind::Other, [](Events& e) { opened(e); });
         return MMSYSERR_NOERROR;
@@ -84,12 +80,9 @@ public:
         post(DeviceEventQueue::Kind::Other, [code](Events& e) { failed(e, code); });
     }
     std::size_t queued() const noexcept { return m_queue.size(); }
-    std::size_t count(const std::string& call) const {
-        return static_cast<std::size_t>(std::count(calls.begin(), calls.end(), call));
-    }
 
 protected:
-    virtual void stopped() = 0;  // opened or reset: no longer capturing or paused
+    virtual void stopped() {}  // opened or reset: no longer capturing
 
     int scripted(const char* call) {
         calls.emplace_back(call);
@@ -129,35 +122,27 @@ protected:
 
 class FakeWaveInDevice : public FakeWaveDevice<WaveInDevice, WaveInEvents> {
 public:
-    bool started = false;
-
     int addBuffer(WaveHeader& header) override { return enqueue("add", header); }
     int start() override;
-    // Sound arrives: it fills the queued buffers in order and every full buffer is handed back. Before a start, and
-    // between a reset and the next start, it waits in the device; with no buffer queued it is lost.
+    // Sound arrives: once started it fills the queued buffers in order and every full buffer is handed back; with no
+    // buffer queued it is lost.
     void capture(std::span<const std::uint8_t> bytes);
 
 private:
-    void stopped() override { started = false; }
-    void deliver();
-    std::vector<std::uint8_t> m_waiting;
+    void stopped() override { m_started = false; }
+    bool m_started = false;
 };
 
 class FakeWaveOutDevice : public FakeWaveDevice<WaveOutDevice, WaveOutEvents> {
 public:
     std::vector<std::uint8_t> sounded;  // the bytes of every header played to its end, in order
-    bool paused = false;
 
     int query(const WaveFormat&) override { return scripted("query"); }
     int write(WaveHeader& header) override { return enqueue("write", header); }
-    int pause() override { return toggle("pause", true); }
-    int restart() override { return toggle("restart", false); }
-    // The first `headers` queued headers finish playing and are handed back. Nothing plays while paused.
+    int pause() override { return scripted("pause"); }
+    int restart() override { return scripted("restart"); }
+    // The first `headers` queued headers finish playing and are handed back.
     void play(std::size_t headers = 1);
-
-private:
-    void stopped() override { paused = false; }
-    int toggle(const char* call, bool pause);
 };
 
 // The record format of `index` (3 is 16-bit mono at 11025 Hz), as the writer knows them.

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 #include <QEventLoop>
+#include <QProcess>
 #include <QTimer>
 #include <array>
 #include <csignal>
@@ -11,16 +12,14 @@
 
 #include "base/ByteOrder.h"
 
-namespace {
-
-std::string firstLine(const std::string& text) { return text.substr(0, text.find('\n')); }
-
-}  // namespace
-
 std::optional<TestDevices> findTestDevices() {
+    const auto firstLine = [](const std::string& command) {
+        const std::string text = runCommand(command + " 2>/dev/null").output;
+        return text.substr(0, text.find('\n'));
+    };
     TestDevices devices;
-    devices.source = firstLine(runCommand("pactl get-default-source 2>/dev/null").output);
-    devices.sink = firstLine(runCommand("pactl get-default-sink 2>/dev/null").output);
+    devices.source = firstLine("pactl get-default-source");
+    devices.sink = firstLine("pactl get-default-sink");
     const std::string modules = runCommand("pactl list short modules 2>/dev/null").output;
     // The pipe source's line names its source, its file and its rate.
     const std::regex pipe("module-pipe-source\\s+source_name=" + devices.source + " file=(\\S+).* rate=(\\d+)");
@@ -83,23 +82,20 @@ void PipeFeeder::run() {
     m_cpuSeconds = static_cast<double>(cpu.tv_sec) + static_cast<double>(cpu.tv_nsec) * 1e-9;
 }
 
-MonitorRecording::MonitorRecording(const std::string& sink, int rate, std::filesystem::path file)
-    : m_file(std::move(file)) {
-    m_process.setStandardOutputFile(QString::fromStdString(m_file.string()));
-    m_process.start("parec", {"--raw", "--format=s16le", "--channels=1", "--latency-msec=10",
-                              QStringLiteral("--rate=%1").arg(rate), "-d", QString::fromStdString(sink + ".monitor")});
-    m_started = m_process.waitForStarted(5000);
-    runEventLoop(300);  // connected and recording before the test plays anything
-}
-
-std::vector<std::int16_t> MonitorRecording::stop() {
-    if (m_started) {
-        // parec writes out what it holds only when interrupted, not when terminated.
-        ::kill(static_cast<pid_t>(m_process.processId()), SIGINT);
-        m_process.waitForFinished(5000);
-        m_started = false;
-    }
-    const std::string bytes = runCommand("cat '" + m_file.string() + "'").output;
+std::vector<std::int16_t> recordMonitor(const std::string& sink, int rate, const std::filesystem::path& file,
+                                        const std::function<void()>& play) {
+    QProcess parec;
+    parec.setStandardOutputFile(QString::fromStdString(file.string()));
+    parec.start("parec", {"--raw", "--format=s16le", "--channels=1", "--latency-msec=10",
+                          QStringLiteral("--rate=%1").arg(rate), "-d", QString::fromStdString(sink + ".monitor")});
+    if (!parec.waitForStarted(5000)) return {};
+    runEventLoop(300);  // connected and recording before anything plays
+    play();
+    runEventLoop(300);
+    // parec writes out what it holds only when interrupted, not when terminated.
+    ::kill(static_cast<pid_t>(parec.processId()), SIGINT);
+    parec.waitForFinished(5000);
+    const std::string bytes = runCommand("cat '" + file.string() + "'").output;
     std::vector<std::int16_t> samples(bytes.size() / 2);
     samplesFromLE({reinterpret_cast<const std::uint8_t*>(bytes.data()), samples.size() * 2}, samples.data());
     return samples;

@@ -1,9 +1,7 @@
-// What the tests against a real PulseAudio server share: finding the test devices that
-// scripts/pulse-test-server.sh sets up, feeding sound into the pipe source at a microphone's pace, and recording what
-// the null sink plays.
+// For tests on a real PulseAudio server: the test devices scripts/pulse-test-server.sh sets up, sound fed into the
+// pipe source at a microphone's pace, and what the null sink plays.
 #pragma once
 
-#include <QProcess>
 #include <atomic>
 #include <chrono>
 #include <cstdint>
@@ -55,19 +53,10 @@ private:
     std::thread m_thread;
 };
 
-// Records the monitor of a sink with parec, raw 16-bit mono at `rate`, until stop() gives what it heard.
-class MonitorRecording {
-public:
-    MonitorRecording(const std::string& sink, int rate, std::filesystem::path file);
-    ~MonitorRecording() { stop(); }
-    bool started() const { return m_started; }
-    std::vector<std::int16_t> stop();
-
-private:
-    QProcess m_process;
-    std::filesystem::path m_file;
-    bool m_started = false;
-};
+// What the monitor of a sink hears while `play` runs, recorded with parec, raw 16-bit mono at `rate` into `file`;
+// nothing when parec cannot start.
+std::vector<std::int16_t> recordMonitor(const std::string& sink, int rate, const std::filesystem::path& file,
+                                        const std::function<void()>& play);
 
 // Runs the event loop for `milliseconds`.
 void runEventLoop(int milliseconds);

@@ -2,7 +2,6 @@
 // file sample for sample and ends one chunk short. The play ends by the count of samples handed back, never by a clock.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -35,17 +34,15 @@ TEST(RealPlayback, AChunkedPlaySoundsTheFileAndEndsOneChunkShort) {
     const std::int64_t chunks = (count - 1500) / 1024;
     const std::int64_t played = 1500 + (chunks - 1) * ((count - 1500) / chunks);
 
-    MonitorRecording heard(devices->sink, 11025, root / "heard.raw");
-    ASSERT_TRUE(heard.started());
     BasicPlayWindow window(player, play, prompt, file.data(), count);
     WaveWriter mono;
     mono.SetRecordFormat(3);  // 16-bit mono at 11025 Hz
-    ASSERT_EQ(player.Open(mono.format, &window), 1);
-    play.clearCounters();
-    ASSERT_EQ(PlayChunked(play, player, file.data(), count, 1024, {}, prompt), 1);
-    player.WaitClosed();
-    runEventLoop(300);
-    std::vector<std::int16_t> got = heard.stop();
+    std::vector<std::int16_t> got = recordMonitor(devices->sink, 11025, root / "heard.raw", [&] {
+        ASSERT_EQ(player.Open(mono.format, &window), 1);
+        play.clearCounters();
+        ASSERT_EQ(PlayChunked(play, player, file.data(), count, 1024, {}, prompt), 1);
+        player.WaitClosed();
+    });
 
     std::erase(got, 0);
     EXPECT_EQ(got, std::vector<std::int16_t>(file.begin() + 3000, file.begin() + played));
