@@ -458,20 +458,40 @@ void CMainFrame::ShowBusyText(const QString& text) {
 
 QString CMainFrame::busyText() const { return m_busyText->isVisible() ? m_busyText->text() : QString(); }
 
+namespace {
+
+// The view's audio held for the life of a modal dialog, and given back however the dialog ends.
+class DialogHold {
+public:
+    explicit DialogHold(CAFView& view) : m_view(view) { m_view.HoldAudioForDialog(true); }
+    ~DialogHold() { m_view.HoldAudioForDialog(false); }
+    DialogHold(const DialogHold&) = delete;
+    DialogHold& operator=(const DialogHold&) = delete;
+
+private:
+    CAFView& m_view;
+};
+
+}  // namespace
+
 void CMainFrame::volume() {
     // Without the master level no mixer of our own is up: the desktop's volume control takes over.
     if (m_mixer->line(MixerLine::Master) == nullptr) {
         if (!StartFirstProgram(VolumeControlPrograms(), m_app.startProgram)) m_prompt.showOk(kVolumeControlFailed);
         return;
     }
-    CVolume dialog(*m_mixer, RecordInput, this);
-    dialog.exec();
+    {
+        const DialogHold hold(*m_view);
+        CVolume dialog(*m_mixer, RecordInput, this);
+        dialog.exec();
+    }
     raise();
     activateWindow();
     setFocus();
 }
 
 void CMainFrame::RecordSetting() {
+    const DialogHold hold(*m_view);
     CConfGravar dialog(RecordInput, this);
     if (dialog.exec() != QDialog::Accepted) return;
     RecordInput = ApplyRecordInput(RecordInput, dialog.Input(), *m_mixer, m_prompt, m_home);
@@ -479,9 +499,12 @@ void CMainFrame::RecordSetting() {
 }
 
 void CMainFrame::f0Setting() {
-    CConfF0 box(f0Range, m_prompt, this);
-    if (box.exec() != QDialog::Accepted) return;
-    f0Range = box.range();
+    {
+        const DialogHold hold(*m_view);
+        CConfF0 box(f0Range, m_prompt, this);
+        if (box.exec() != QDialog::Accepted) return;
+        f0Range = box.range();
+    }
     m_view->F0RangeChanged();
 }
 

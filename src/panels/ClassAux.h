@@ -79,6 +79,11 @@ double LeadingNumber(const QString& line);
 class ClassAux : public QWidget {
     Q_OBJECT
 public:
+    // What the list being opened (or a dialog, which stops the window the same way) holds back, and gives back when
+    // its focus goes.
+    enum class Hold { UpdateRate, Band, Limit, Colors };
+    void holdAudio(Hold kind);
+    void releaseAudio(Hold kind);
     // Where a control stands on the panel, in page pixels of the small layout.
     struct Placement {
         QWidget* widget;
@@ -153,10 +158,6 @@ protected:
     ClassAux(const std::vector<std::string_view>& updateRateLines, const std::vector<std::string_view>& limitLines,
              int defaultLimit, QWidget* parent);
 
-    // What the list being opened holds back, and gives back when its focus goes.
-    enum class Hold { UpdateRate, Band, Limit, Colors };
-    void holdAudio(Hold kind);
-    void releaseAudio(Hold kind);
     // Each list holds the audio while it has the focus, and gives the focus to the view when it closes.
     void watchList(QComboBox* list, Hold kind);
     void returnFocus();

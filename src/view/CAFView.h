@@ -183,6 +183,9 @@ public:
     // The record format chosen with the panel's rate button (an index of the record-format table: 3, 5 or 7 from
     // the button): the recorder takes it, and the live pages follow its rate.
     void SetRecordFormat(int index);
+    // A modal dialog keeps the window from serving the sound: while it is open the audio is held as an open list
+    // of the panel holds it (a play pauses, captured buffers are thrown away), and given back when it closes.
+    void HoldAudioForDialog(bool hold);
     // Captured buffers are thrown away while this is set: an open list or a recomputation holds the window.
     bool RecordPaused = false;
     bool isPlaying() const override { return Playing; }

@@ -64,6 +64,10 @@ void CAFView::ensureCurves() {
     if (!needF0 && !needFormants) return;
     m_computingCurves = true;
     WaitCursor wait;
+    // A play over the whole recording would starve while the window waits for the analysis: it stops for the time
+    // of it and goes on afterwards. A zoomed play is short and plays through.
+    const bool pausePlay = isPlaying() && !isZoomed();
+    if (pausePlay) PausePlay();
     const std::span<const std::int16_t> samples = std::as_const(m_recording).samples();
     const int sampleRate = rate();
     if (needF0) {
@@ -82,6 +86,7 @@ void CAFView::ensureCurves() {
         m_formantTrack = std::move(track);
         emit busyText(QString());
     }
+    if (pausePlay) RestartPlay();
     wait.restore();
     m_computingCurves = false;
     m_curvePrompt.flushTo(m_prompt);

@@ -71,6 +71,15 @@ void CAFView::SetRecordFormat(int index) {
     RedrawAll();
 }
 
+void CAFView::HoldAudioForDialog(bool hold) {
+    ClassAux* panel = ActivePanel();
+    if (panel == nullptr) return;
+    if (hold)
+        panel->holdAudio(ClassAux::Hold::Limit);
+    else
+        panel->releaseAudio(ClassAux::Hold::Limit);
+}
+
 void CAFView::PausePlay() {
     if (m_player != nullptr && m_player->deviceOpen()) m_player->Pause();
 }

@@ -271,6 +271,11 @@ void SidePanelsTest::panelChangesReachTheViewsSettings() {
     QCOMPARE(spectrogram.LimitBox()->count(), 3);
     view.SetRecordFormat(7);
     QCOMPARE(spectrogram.LimitBox()->count(), 6);
+    // A modal dialog holds the capture as an open list does, until it closes.
+    view.HoldAudioForDialog(true);
+    QVERIFY(view.RecordPaused);
+    view.HoldAudioForDialog(false);
+    QVERIFY(!view.RecordPaused);
 }
 
 void SidePanelsTest::picturesOfEachPanelOnItsPage_data() {
