@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include "ViewFixtures.h"
+#include "panels/CMyBarra.h"
 #include "view/GraphCaptions.h"
 
 namespace {
@@ -97,7 +98,7 @@ void ViewCurvesTest::speechInEachSchemeAtTwoSizesForPeopleToLookAt() {
             CAFView view(prompt);
             showForScreen(view, screen);
             view.setCurrentClient(client.folder, "Demo client");
-            view.spectrogramSettings().colourScheme = scheme;
+            view.spectrogramPanel()->OnColorCommand(kFirstColourCommand + scheme);  // the strip shows it too
             QCOMPARE(view.OpenRecording(0, 1), 1);
             view.RedrawF0(true);
             view.RedrawFormants(true);
