@@ -307,6 +307,13 @@ void SidePanelsTest::picturesOfEachPanelOnItsPage() {
         const QString name = QString("panel-%1-%2x%3").arg(spectrum ? "spectrum" : "spectrogram");
         QVERIFY(view.grab().save(folder + "/" + name.arg(screen.width()).arg(screen.height()) + ".png"));
     }
+    // The other style of the spectrum, with the long-term average over it.
+    view.spectrumPanel()->VisualisationBox()->setCurrentIndex(1);
+    emit view.spectrumPanel()->VisualisationBox()->activated(1);  // as when the user picks the line
+    QCOMPARE(view.spectrumSettings().style, SpectrumStyle::Line);
+    view.spectrumPanel()->LtasBox()->click();
+    QVERIFY(view.grab().save(
+        QString("%1/panel-spectrum-line-ltas-%2x%3.png").arg(folder).arg(screen.width()).arg(screen.height())));
 }
 
 QTEST_MAIN(SidePanelsTest)
