@@ -1143,5 +1143,21 @@ Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translat
         <source>Set the lowest and highest frequency of the F0 curve</source>
         <translation>Fijar la frecuencia mínima y máxima de la curva de F0</translation>
     </message>
+    <message>
+        <source>&amp;Spanish</source>
+        <translation>&amp;Español</translation>
+    </message>
+    <message>
+        <source>&amp;Portuguese</source>
+        <translation>&amp;Portugués</translation>
+    </message>
+    <message>
+        <source>Show the program in Spanish</source>
+        <translation>Mostrar el programa en español</translation>
+    </message>
+    <message>
+        <source>Show the program in Portuguese</source>
+        <translation>Mostrar el programa en portugués</translation>
+    </message>
 </context>
 </TS>

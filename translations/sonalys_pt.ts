@@ -1143,5 +1143,21 @@ Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</trans
         <source>Set the lowest and highest frequency of the F0 curve</source>
         <translation>Definir a frequência mínima e máxima da curva de F0</translation>
     </message>
+    <message>
+        <source>&amp;Spanish</source>
+        <translation>&amp;Espanhol</translation>
+    </message>
+    <message>
+        <source>&amp;Portuguese</source>
+        <translation>&amp;Português</translation>
+    </message>
+    <message>
+        <source>Show the program in Spanish</source>
+        <translation>Mostrar o programa em espanhol</translation>
+    </message>
+    <message>
+        <source>Show the program in Portuguese</source>
+        <translation>Mostrar o programa em português</translation>
+    </message>
 </context>
 </TS>
