@@ -927,7 +927,7 @@ It was not possible to read additional information about the sound file!</source
     </message>
     <message>
         <source>Update Rate</source>
-        <translation>Frecuencia de actualización</translation>
+        <translation>Actualización</translation>
     </message>
     <message>
         <source>Limit</source>
@@ -939,7 +939,7 @@ It was not possible to read additional information about the sound file!</source
     </message>
     <message>
         <source>Colors</source>
-        <translation>Colores</translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Start or stop recording</source>

@@ -927,7 +927,7 @@ Não foi possível ler as informações adicionais do arquivo de som!</translati
     </message>
     <message>
         <source>Update Rate</source>
-        <translation>Taxa de atualização</translation>
+        <translation>Atualização</translation>
     </message>
     <message>
         <source>Limit</source>
