@@ -1007,7 +1007,7 @@ It was not possible to read additional information about the sound file!</source
     </message>
     <message>
         <source>FFT Size</source>
-        <translation>Tamaño de la FFT</translation>
+        <translation>Tamaño FFT</translation>
     </message>
     <message>
         <source>Visualisation</source>

@@ -1007,7 +1007,7 @@ Não foi possível ler as informações adicionais do arquivo de som!</translati
     </message>
     <message>
         <source>FFT Size</source>
-        <translation>Tamanho da FFT</translation>
+        <translation>Tamanho FFT</translation>
     </message>
     <message>
         <source>Visualisation</source>
