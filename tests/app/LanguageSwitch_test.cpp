@@ -1,5 +1,5 @@
 // A language chosen in the menu takes over menus, panels and the view's captions at once and is kept in lang.dat;
-// pictures of the main window in each language are saved under the build tree, each checked for text cut off.
+// pictures of the main window on each page in each language are saved under the build tree, checked for cut text.
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
@@ -11,6 +11,7 @@
 #include "ProgramOnRoot.h"
 #include "panels/CMyBarra.h"
 #include "view/CAFView.h"
+#include "view/ViewCommands.h"
 
 namespace {
 
@@ -78,17 +79,20 @@ void LanguageSwitchTest::switchShowsTheLanguageAtOnce() {
     for (const int id : {32891, 32892, 32893, 32894}) QCOMPARE(frame.command(id)->isChecked(), id == command);
     QCOMPARE(ReadSettingInts(window.root / kLanguageFile, 1), std::vector<std::int32_t>{number});
 
-    QTest::qWait(50);  // the menu bar lays its new titles out
-    const QString folder = QStringLiteral(SONALYS_SCREENSHOT_DIR);
-    QDir().mkpath(folder);
-    QVERIFY(frame.grab().save(folder + QString("/main-window-%1.png").arg(QTest::currentDataTag())));
-    // Every button and label shows its whole text in the room it has.
-    for (const QWidget* widget : frame.findChildren<QWidget*>()) {
-        const auto* button = qobject_cast<const QAbstractButton*>(widget);
-        const auto* label = qobject_cast<const QLabel*>(widget);
-        const QString text = button ? button->text() : label ? label->text() : QString();
-        if (widget->isVisible() && !text.isEmpty())
-            QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), qPrintable(text));
+    // Both pages, each pictured and every button and label showing its whole text in the room it has.
+    for (const QString page : {"spectrogram", "spectrum"}) {
+        if (page == "spectrum") frame.view()->action(kIdShowSpectrum)->trigger();
+        QTest::qWait(50);  // the menu bar lays its new titles out
+        const QString folder = QStringLiteral(SONALYS_SCREENSHOT_DIR);
+        QDir().mkpath(folder);
+        QVERIFY(frame.grab().save(folder + QString("/main-window-%1-%2.png").arg(QTest::currentDataTag(), page)));
+        for (const QWidget* widget : frame.findChildren<QWidget*>()) {
+            const auto* button = qobject_cast<const QAbstractButton*>(widget);
+            const auto* label = qobject_cast<const QLabel*>(widget);
+            const QString text = button ? button->text() : label ? label->text() : QString();
+            if (widget->isVisible() && !text.isEmpty())
+                QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), qPrintable(text));
+        }
     }
 }
 
