@@ -927,7 +927,7 @@ It was not possible to read additional information about the sound file!</source
     </message>
     <message>
         <source>Update Rate</source>
-        <translation>Frecuencia de actualización</translation>
+        <translation>Actualización</translation>
     </message>
     <message>
         <source>Limit</source>
@@ -939,7 +939,7 @@ It was not possible to read additional information about the sound file!</source
     </message>
     <message>
         <source>Colors</source>
-        <translation>Colores</translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Start or stop recording</source>
@@ -1007,7 +1007,7 @@ It was not possible to read additional information about the sound file!</source
     </message>
     <message>
         <source>FFT Size</source>
-        <translation>Tamaño de la FFT</translation>
+        <translation>Tamaño FFT</translation>
     </message>
     <message>
         <source>Visualisation</source>
@@ -1142,6 +1142,22 @@ Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translat
     <message>
         <source>Set the lowest and highest frequency of the F0 curve</source>
         <translation>Fijar la frecuencia mínima y máxima de la curva de F0</translation>
+    </message>
+    <message>
+        <source>&amp;Spanish</source>
+        <translation>&amp;Español</translation>
+    </message>
+    <message>
+        <source>&amp;Portuguese</source>
+        <translation>&amp;Portugués</translation>
+    </message>
+    <message>
+        <source>Show the program in Spanish</source>
+        <translation>Mostrar el programa en español</translation>
+    </message>
+    <message>
+        <source>Show the program in Portuguese</source>
+        <translation>Mostrar el programa en portugués</translation>
     </message>
 </context>
 </TS>

@@ -1143,5 +1143,21 @@ It is opened read-only and no change is written to it.</source>
         <source>Set the lowest and highest frequency of the F0 curve</source>
         <translation>F0 곡선의 최저 및 최고 주파수 설정</translation>
     </message>
+    <message>
+        <source>&amp;Spanish</source>
+        <translation>스페인어(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Portuguese</source>
+        <translation>포르투갈어(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Show the program in Spanish</source>
+        <translation>프로그램을 스페인어로 표시합니다</translation>
+    </message>
+    <message>
+        <source>Show the program in Portuguese</source>
+        <translation>프로그램을 포르투갈어로 표시합니다</translation>
+    </message>
 </context>
 </TS>

@@ -927,7 +927,7 @@ Não foi possível ler as informações adicionais do arquivo de som!</translati
     </message>
     <message>
         <source>Update Rate</source>
-        <translation>Taxa de atualização</translation>
+        <translation>Atualização</translation>
     </message>
     <message>
         <source>Limit</source>
@@ -1007,7 +1007,7 @@ Não foi possível ler as informações adicionais do arquivo de som!</translati
     </message>
     <message>
         <source>FFT Size</source>
-        <translation>Tamanho da FFT</translation>
+        <translation>Tamanho FFT</translation>
     </message>
     <message>
         <source>Visualisation</source>
@@ -1142,6 +1142,22 @@ Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</trans
     <message>
         <source>Set the lowest and highest frequency of the F0 curve</source>
         <translation>Definir a frequência mínima e máxima da curva de F0</translation>
+    </message>
+    <message>
+        <source>&amp;Spanish</source>
+        <translation>&amp;Espanhol</translation>
+    </message>
+    <message>
+        <source>&amp;Portuguese</source>
+        <translation>&amp;Português</translation>
+    </message>
+    <message>
+        <source>Show the program in Spanish</source>
+        <translation>Mostrar o programa em espanhol</translation>
+    </message>
+    <message>
+        <source>Show the program in Portuguese</source>
+        <translation>Mostrar o programa em português</translation>
     </message>
 </context>
 </TS>

@@ -54,6 +54,23 @@ constexpr int kIdOpenRecording = 32784;
 constexpr int kIdVolume = 32843;
 constexpr int kIdEnglish = 32891;
 constexpr int kIdKorean = 32892;
+constexpr int kIdSpanish = 32893;
+constexpr int kIdPortuguese = 32894;
+
+// The language commands, in the order of the menu: each sets its language, is checked while that language is in
+// force, and is written to lang.dat.
+struct LanguageCommand {
+    int id;
+    LanguageId language;
+    std::string_view text;
+    std::string_view tip;
+};
+constexpr LanguageCommand kLanguageCommands[] = {
+    {kIdEnglish, LanguageId::English, kCommandEnglish, kTipEnglish},
+    {kIdKorean, LanguageId::Korean, kCommandKorean, kTipKorean},
+    {kIdSpanish, LanguageId::Spanish, kCommandSpanish, kTipSpanish},
+    {kIdPortuguese, LanguageId::Portuguese, kCommandPortuguese, kTipPortuguese},
+};
 
 // Where the working message stands on the frame, in pixels from the tool bar's top left corner.
 constexpr QPoint kBusyTextAt(600, 7);
@@ -353,12 +370,12 @@ void CMainFrame::createCommands() {
     QMenu* language = settings->addMenu(QString());
     m_menus.push_back({language, kMenuLanguage});
     connect(language, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
-    connect(addCommand(language, kIdEnglish, kCommandEnglish, kTipEnglish, nullptr, notRecording,
-                       [this] { return m_app.languageId() == LanguageId::English; }),
-            &QAction::triggered, this, &CMainFrame::languageEnglish);
-    connect(addCommand(language, kIdKorean, kCommandKorean, kTipKorean, nullptr, notRecording,
-                       [this] { return m_app.languageId() == LanguageId::Korean; }),
-            &QAction::triggered, this, &CMainFrame::languageKorean);
+    for (const LanguageCommand& row : kLanguageCommands) {
+        const LanguageId id = row.language;
+        connect(addCommand(language, row.id, row.text, row.tip, nullptr, notRecording,
+                           [this, id] { return m_app.languageId() == id; }),
+                &QAction::triggered, this, [this, id] { SetLanguageCommand(id); });
+    }
 
     QMenu* help = addMenu(kMenuHelp);
     QAction* contents = addCommand(help, kIdContents, kCommandContents, kTipContents, "help", idle);
@@ -519,9 +536,6 @@ void CMainFrame::about() {
     CAboutDlg box(m_app.Licensed, this);
     box.exec();
 }
-
-void CMainFrame::languageEnglish() { SetLanguageCommand(LanguageId::English); }
-void CMainFrame::languageKorean() { SetLanguageCommand(LanguageId::Korean); }
 
 void CMainFrame::SetLanguageCommand(LanguageId language) {
     if (m_app.languageId() == language) return;

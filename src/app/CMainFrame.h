@@ -49,6 +49,8 @@ inline constexpr std::string_view kCommandOpenRecording = QT_TRANSLATE_NOOP("Son
 inline constexpr std::string_view kCommandVolume = QT_TRANSLATE_NOOP("Sonalys", "Volume...");
 inline constexpr std::string_view kCommandEnglish = QT_TRANSLATE_NOOP("Sonalys", "&English");
 inline constexpr std::string_view kCommandKorean = QT_TRANSLATE_NOOP("Sonalys", "&Korean");
+inline constexpr std::string_view kCommandSpanish = QT_TRANSLATE_NOOP("Sonalys", "&Spanish");
+inline constexpr std::string_view kCommandPortuguese = QT_TRANSLATE_NOOP("Sonalys", "&Portuguese");
 inline constexpr std::string_view kCommandContents = QT_TRANSLATE_NOOP("Sonalys", "Contents...");
 inline constexpr std::string_view kCommandAbout = QT_TRANSLATE_NOOP("Sonalys", "&About Sonalys...");
 
@@ -66,6 +68,8 @@ inline constexpr std::string_view kTipRecordSettings =
     QT_TRANSLATE_NOOP("Sonalys", "Choose the input the recordings are taken from");
 inline constexpr std::string_view kTipEnglish = QT_TRANSLATE_NOOP("Sonalys", "Show the program in English");
 inline constexpr std::string_view kTipKorean = QT_TRANSLATE_NOOP("Sonalys", "Show the program in Korean");
+inline constexpr std::string_view kTipSpanish = QT_TRANSLATE_NOOP("Sonalys", "Show the program in Spanish");
+inline constexpr std::string_view kTipPortuguese = QT_TRANSLATE_NOOP("Sonalys", "Show the program in Portuguese");
 inline constexpr std::string_view kTipContents = QT_TRANSLATE_NOOP("Sonalys", "Open the user guide");
 inline constexpr std::string_view kTipAbout =
     QT_TRANSLATE_NOOP("Sonalys", "Show the version of the program and of the computer");
@@ -132,8 +136,6 @@ public slots:
     void f0Setting();
     void contents();
     void about();
-    void languageEnglish();
-    void languageKorean();
 
 signals:
     // A recording of the client in work was chosen from its list, to be shown in the view.

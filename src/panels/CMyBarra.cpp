@@ -72,9 +72,10 @@ CMyBarra::CMyBarra(QWidget* parent) : ClassAux(kUpdateRateLines, kResourceLimitL
     place(m_band, {464, 13, 70, 22});
     place(addCaption(kCaptionLimit), {538, 0, 78, 12});
     place(m_limit, {538, 13, 78, 22});
-    place(m_f0, {622, 3, 80, 20});
-    place(m_formants, {622, 25, 80, 20});
-    place(m_spectrogram, {704, 3, 96, 20});
+    // The Spectrogram box takes the room to the page's edge: its caption is the longest in some languages.
+    place(m_f0, {618, 3, 79, 20});
+    place(m_formants, {618, 25, 79, 20});
+    place(m_spectrogram, {698, 3, 102, 20});
     setPageSize(QSize(800, 48), QSize(860, 58));
     setTabOrder(m_updateRate, this);
     setTabOrder(this, m_colors);

@@ -51,7 +51,8 @@ CMyBarra2::CMyBarra2(QWidget* parent) : ClassAux(kUpdateRateLines, kResourceLimi
     connect(m_ltas, &QCheckBox::toggled, this, &CMyBarra2::ltasToggled);
 
     place(m_colors, {214, 13, 66, 22});
-    place(addCaption(kCaptionFftSize), {284, 0, 60, 12});
+    // The caption takes the free room of its row on both sides of the list: it is longer in some languages.
+    place(addCaption(kCaptionFftSize), {280, 0, 68, 12});
     place(m_fftSize, {284, 13, 60, 22});
     place(addCaption(kCaptionLimit), {348, 0, 78, 12});
     place(m_limit, {348, 13, 78, 22});
