@@ -82,7 +82,9 @@ void LanguageSwitchTest::switchShowsTheLanguageAtOnce() {
     // Both pages, each pictured and every button and label showing its whole text in the room it has.
     for (const QString page : {"spectrogram", "spectrum"}) {
         if (page == "spectrum") frame.view()->action(kIdShowSpectrum)->trigger();
-        QTest::qWait(50);  // the menu bar lays its new titles out
+        // The menu bar lays its new titles out from posted layout requests: run them before the picture.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        QCoreApplication::processEvents();
         const QString folder = QStringLiteral(SONALYS_SCREENSHOT_DIR);
         QDir().mkpath(folder);
         QVERIFY(frame.grab().save(folder + QString("/main-window-%1-%2.png").arg(QTest::currentDataTag(), page)));
