@@ -16,16 +16,11 @@
 
 #include <QApplication>
 
+#include "BenchSupport.h"
 #include "store/Prompt.h"
-#include "store/WaveFile.h"
 #include "view/CAFView.h"
 
 namespace {
-
-struct SilentPrompt : Prompt {
-    void showOk(std::string_view) override {}
-    bool askYesNo(std::string_view) override { return true; }
-};
 
 constexpr int kRate = 22050;
 
@@ -49,10 +44,7 @@ std::filesystem::path voiceFile(int seconds) {
         samples[i] =
             static_cast<std::int16_t>(std::clamp(8000.0 * envelope * voice + noise(random), -32000.0, 32000.0));
     }
-    WaveWriter writer;
-    writer.SetRecordFormat(5);
-    SilentPrompt prompt;
-    writer.WaveWrite(file, static_cast<std::uint32_t>(samples.size() * 2), samples.data(), prompt);
+    WriteBenchWave(file, samples, 5);
     return file;
 }
 

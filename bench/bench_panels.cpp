@@ -10,17 +10,12 @@
 
 #include <QApplication>
 
+#include "BenchSupport.h"
 #include "panels/CMyBarra.h"
 #include "store/Prompt.h"
-#include "store/WaveFile.h"
 #include "view/CAFView.h"
 
 namespace {
-
-struct SilentPrompt : Prompt {
-    void showOk(std::string_view) override {}
-    bool askYesNo(std::string_view) override { return true; }
-};
 
 constexpr int kRate = 44100;
 constexpr int kSeconds = 600;
@@ -34,10 +29,7 @@ std::filesystem::path tenMinutes() {
         const double pulse = std::exp(-std::fmod(t, 1.0 / 150.0) * 900.0) * std::sin(2.0 * M_PI * 700.0 * t);
         samples[i] = static_cast<std::int16_t>(12000.0 * (0.5 + 0.5 * std::sin(2.0 * M_PI * 3.0 * t)) * pulse);
     }
-    WaveWriter writer;
-    writer.SetRecordFormat(7);
-    SilentPrompt prompt;
-    writer.WaveWrite(file, static_cast<std::uint32_t>(samples.size() * 2), samples.data(), prompt);
+    WriteBenchWave(file, samples, 7);
     return file;
 }
 

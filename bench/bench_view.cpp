@@ -14,16 +14,11 @@
 #include <QMenu>
 #include <QMouseEvent>
 
+#include "BenchSupport.h"
 #include "store/Prompt.h"
-#include "store/WaveFile.h"
 #include "view/CAFView.h"
 
 namespace {
-
-struct SilentPrompt : Prompt {
-    void showOk(std::string_view) override {}
-    bool askYesNo(std::string_view) override { return true; }
-};
 
 constexpr int kRate = 44100;
 constexpr int kSeconds = 600;
@@ -44,10 +39,7 @@ const std::filesystem::path& tenMinutes() {
             samples[i] =
                 static_cast<std::int16_t>(std::clamp(6000.0 * envelope * voice + noise(random), -32000.0, 32000.0));
         }
-        WaveWriter writer;
-        writer.SetRecordFormat(7);
-        SilentPrompt prompt;
-        writer.WaveWrite(file, static_cast<std::uint32_t>(samples.size() * 2), samples.data(), prompt);
+        WriteBenchWave(file, samples, 7);
         return file;
     }();
     return path;
