@@ -11,6 +11,7 @@
 #include <QApplication>
 
 #include "BenchSupport.h"
+#include "ViewBench.h"
 #include "panels/CMyBarra.h"
 #include "store/Prompt.h"
 #include "view/CAFView.h"
@@ -37,12 +38,7 @@ struct ShownSpectrogram {
     SilentPrompt prompt;
     CAFView view{prompt};
     explicit ShownSpectrogram(QSize screen) {
-        view.setScreenSize(screen);
-        const QSizeF page = view.layout().pageSize();
-        view.resize(static_cast<int>(page.width()),
-                    static_cast<int>(std::lround(page.height() * view.layout().verticalStretch())));
-        view.show();
-        QApplication::processEvents();
+        ShowAtPageSize(view, screen);
         static const std::filesystem::path file = tenMinutes();
         view.OpenRecordingFile(file);
         view.repaint();

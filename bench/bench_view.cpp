@@ -15,6 +15,7 @@
 #include <QMouseEvent>
 
 #include "BenchSupport.h"
+#include "ViewBench.h"
 #include "store/Prompt.h"
 #include "view/CAFView.h"
 
@@ -49,14 +50,7 @@ const std::filesystem::path& tenMinutes() {
 struct ShownView {
     SilentPrompt prompt;
     CAFView view{prompt};
-    explicit ShownView(QSize screen) {
-        view.setScreenSize(screen);
-        const QSizeF page = view.layout().pageSize();
-        view.resize(static_cast<int>(page.width()),
-                    static_cast<int>(std::lround(page.height() * view.layout().verticalStretch())));
-        view.show();
-        QApplication::processEvents();
-    }
+    explicit ShownView(QSize screen) { ShowAtPageSize(view, screen); }
     void send(QEvent::Type type, QPoint page, Qt::MouseButtons buttons) {
         const QPointF at = view.layout().toWidget(QSizeF(view.size())).map(QPointF(page) + QPointF(0.5, 0.5));
         QMouseEvent event(type, at, view.mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
