@@ -150,6 +150,12 @@ std::optional<std::string> PulseMixer::defaultDeviceName(Device device) {
     return name;
 }
 
+std::optional<std::string> PulseMixer::defaultName(Device device) {
+    if (m_context == nullptr) return {};
+    LoopLock lock(m_loop);
+    return defaultDeviceName(device);
+}
+
 std::optional<PulseMixer::DeviceState> PulseMixer::defaultDevice(Device device) {
     if (m_context == nullptr) return {};
     LoopLock lock(m_loop);

@@ -35,6 +35,8 @@ public:
     bool connect();
     // The server's default device of that kind, or nothing.
     std::optional<DeviceState> defaultDevice(Device device);
+    // The name the server gives its default device of that kind, or nothing.
+    std::optional<std::string> defaultName(Device device);
     bool setVolumes(Device device, std::uint32_t index, const Volumes& volumes);
     // From now on `changed` is called on the server's thread with the device's volumes each time they change.
     bool watch(Device device, std::uint32_t index, ChangeHandler changed);
