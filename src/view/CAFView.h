@@ -52,10 +52,8 @@ inline constexpr std::string_view kEmptyViewLine =
 inline constexpr std::string_view kNoAdditionalInformation = QT_TRANSLATE_NOOP(
     "Sonalys", "Attention!\nIt was not possible to read additional information about the sound file!");
 
-// The working messages of the frame while a curve is computed.
+// The working message of the frame while the F0 curve is computed; the formant tracker declares its own.
 inline constexpr std::string_view kCalculatingF0 = QT_TRANSLATE_NOOP("Sonalys", "Calculating F0...");
-inline constexpr std::string_view kCalculatingFormantsText = QT_TRANSLATE_NOOP("Sonalys", "Calculating Formants...");
-static_assert(kCalculatingFormantsText == kCalculatingFormants);
 
 class CAFView : public QWidget, public PanelAudio {
     Q_OBJECT

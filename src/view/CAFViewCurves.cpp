@@ -79,7 +79,7 @@ void CAFView::ensureCurves() {
         emit busyText(QString());
     }
     if (needFormants) {
-        emit busyText(uiText(kCalculatingFormantsText));
+        emit busyText(uiText(kCalculatingFormants));
         FormantTrack track;
         m_formantObject.setThreadCount(QThread::idealThreadCount());
         RunKeepingWindowAlive([&] { m_formantObject.computeFormants(track, samples, sampleRate); });
