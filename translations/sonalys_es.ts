@@ -1159,5 +1159,21 @@ Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translat
         <source>Show the program in Portuguese</source>
         <translation>Mostrar el programa en portugués</translation>
     </message>
+    <message>
+        <source>Do you Want to save the actual File?</source>
+        <translation>¿Desea guardar el archivo actual?</translation>
+    </message>
+    <message>
+        <source>Error saving File.</source>
+        <translation>Error al guardar el archivo.</translation>
+    </message>
+    <message>
+        <source>Please, Wait ....</source>
+        <translation>Por favor, espere ....</translation>
+    </message>
+    <message>
+        <source>No sound reaches the input: check the microphone, its level, and the default input of the system.</source>
+        <translation>No llega sonido a la entrada: compruebe el micrófono, su nivel y la entrada predeterminada del sistema.</translation>
+    </message>
 </context>
 </TS>

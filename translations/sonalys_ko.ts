@@ -1159,5 +1159,21 @@ It is opened read-only and no change is written to it.</source>
         <source>Show the program in Portuguese</source>
         <translation>프로그램을 포르투갈어로 표시합니다</translation>
     </message>
+    <message>
+        <source>Do you Want to save the actual File?</source>
+        <translation>현재 파일을 저장하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Error saving File.</source>
+        <translation>파일을 저장하는 중 오류가 발생했습니다.</translation>
+    </message>
+    <message>
+        <source>Please, Wait ....</source>
+        <translation>잠시 기다려 주십시오 ....</translation>
+    </message>
+    <message>
+        <source>No sound reaches the input: check the microphone, its level, and the default input of the system.</source>
+        <translation>입력에 소리가 들어오지 않습니다. 마이크와 입력 레벨, 시스템의 기본 입력 장치를 확인하십시오.</translation>
+    </message>
 </context>
 </TS>

@@ -1159,5 +1159,21 @@ Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</trans
         <source>Show the program in Portuguese</source>
         <translation>Mostrar o programa em português</translation>
     </message>
+    <message>
+        <source>Do you Want to save the actual File?</source>
+        <translation>Deseja salvar o arquivo atual?</translation>
+    </message>
+    <message>
+        <source>Error saving File.</source>
+        <translation>Erro ao salvar o arquivo.</translation>
+    </message>
+    <message>
+        <source>Please, Wait ....</source>
+        <translation>Por favor, aguarde ....</translation>
+    </message>
+    <message>
+        <source>No sound reaches the input: check the microphone, its level, and the default input of the system.</source>
+        <translation>Nenhum som chega à entrada: verifique o microfone, o nível dele e a entrada padrão do sistema.</translation>
+    </message>
 </context>
 </TS>

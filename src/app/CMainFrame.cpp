@@ -96,6 +96,7 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     connect(this, &CMainFrame::recordingDeleted, m_view, &CAFView::RecordingDeleted);
     connect(m_view, &CAFView::busyText, this, &CMainFrame::ShowBusyText);
     m_view->setF0RangeSource([this] { return f0Range; });
+    m_view->setTakeSaveChooser([this](const std::filesystem::path& folder) { return chooseTakePath(folder); });
     createCommands();
     createToolBar();
     createStatusBar();
@@ -358,6 +359,9 @@ void CMainFrame::createCommands() {
     mode->addAction(m_view->action(kIdShowSpectrum));
     mode->addSeparator();
     mode->addAction(m_view->action(kIdZoom));
+    mode->addSeparator();
+    mode->addAction(m_view->action(kIdPlay));
+    mode->addAction(m_view->action(kIdRecord));
 
     QMenu* settings = addMenu(kMenuSettings);
     connect(addCommand(settings, kIdVolume, kCommandVolume, kTipVolume, nullptr), &QAction::triggered, this,
@@ -547,6 +551,17 @@ void CMainFrame::SetLanguageCommand(LanguageId language) {
     WriteLanguage(m_home, language);
 }
 
+// Where a take made without a client is kept: a save dialog that starts in the folder for such work.
+std::filesystem::path CMainFrame::chooseTakePath(const std::filesystem::path& folder) {
+    std::error_code ignored;
+    std::filesystem::create_directories(folder, ignored);
+    QFileDialog dialog(this, QString(), QString::fromStdString(folder.string()), uiText(kSoundFileFilter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("wav"));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return std::filesystem::path(dialog.selectedFiles().constFirst().toStdString());
+}
+
 void CMainFrame::closeEvent(QCloseEvent* event) {
     // A program running with a good licence asks before it goes.
     if (m_app.Licensed && !m_prompt.askYesNo(kExitQuestion)) {
@@ -554,5 +569,6 @@ void CMainFrame::closeEvent(QCloseEvent* event) {
         return;
     }
     if (m_help) m_help->close();
+    m_view->StopAudio();
     event->accept();
 }

@@ -149,6 +149,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    std::filesystem::path chooseTakePath(const std::filesystem::path& folder);
     struct FrameCommand {
         int id;
         QAction* action;

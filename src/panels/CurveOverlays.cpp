@@ -115,11 +115,17 @@ void DrawF0(QPainter& dc, QRect graph, const F0Track& track, std::int64_t totalS
     dc.restore();
 }
 
+int F0FrameOfSample(const F0Track& track, std::int64_t totalSamples, std::int64_t sample) {
+    if (sample < 0 || !track.valid || totalSamples <= 0) return -1;
+    const auto frame = static_cast<std::int64_t>(static_cast<double>(track.count()) * sample / totalSamples);
+    return frame < track.count() ? static_cast<int>(frame) : -1;
+}
+
 int DrawF0Point(QPainter& dc, QRect graph, const F0Track& track, int column, std::int64_t totalSamples,
                 std::int64_t sample, const F0Range& range, int scheme) {
-    if (sample < 0 || !track.valid || totalSamples <= 0 || range.minimum >= range.maximum) return -1;
-    const auto frame = static_cast<std::int64_t>(static_cast<double>(track.count()) * sample / totalSamples);
-    if (frame >= track.count()) return -1;
+    if (range.minimum >= range.maximum) return -1;
+    const int frame = F0FrameOfSample(track, totalSamples, sample);
+    if (frame < 0) return -1;
     const float value = track.values[static_cast<std::size_t>(frame)];
     if (F0HasDot(range, value)) {
         dc.save();
@@ -127,7 +133,7 @@ int DrawF0Point(QPainter& dc, QRect graph, const F0Track& track, int column, std
         drawDot(dc, graph, F0DotPosition(graph, range, value, column - kF0DotSize), kF0DotSize);
         dc.restore();
     }
-    return static_cast<int>(frame);
+    return frame;
 }
 
 int F0AxisX(int graphLeft, int graphWidth, bool largeLayout) { return graphLeft + graphWidth + (largeLayout ? 10 : 1); }

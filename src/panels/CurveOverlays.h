@@ -50,6 +50,9 @@ bool F0HasDot(const F0Range& range, float value);
 // track is valid.
 void DrawF0(QPainter& dc, QRect graph, const F0Track& track, std::int64_t totalSamples, std::int64_t rangeStart,
             std::int64_t rangeEnd, const F0Range& range, int scheme);
+// The frame of `track` that sample `sample` of a recording of `totalSamples` falls in; -1 when it is negative or
+// past the track.
+int F0FrameOfSample(const F0Track& track, std::int64_t totalSamples, std::int64_t sample);
 // The dot of one frame at the live edge of a capture or a play: 4 pixels left of `column`, the frame being the one
 // `sample` falls in. Returns that frame, whose value the caller shows in the read-out, or -1 when `sample` is
 // negative or past the track.

@@ -116,6 +116,8 @@ void CAFView::createCommands() {
         if (command.id == kIdZoom) run = &CAFView::Zoom;
         if (command.id == kIdShowSpectrogram) run = &CAFView::ShowSpectrogramPage;
         if (command.id == kIdShowSpectrum) run = &CAFView::ShowSpectrumPage;
+        if (command.id == kIdPlay) run = &CAFView::OnPlay;
+        if (command.id == kIdRecord) run = &CAFView::OnRecord;
         if (run != nullptr) connect(action, &QAction::triggered, this, run);
         if (command.id == kIdZoom) action->setIcon(QIcon(":/view/zoom.svg"));
         m_commands.push_back({command.id, action, run});
@@ -131,6 +133,7 @@ void CAFView::createCommands() {
         item->setObjectName(QStringLiteral("menu%1").arg(id));
         item->setData(id);
         if (id == kIdZoom) connect(item, &QAction::triggered, this, &CAFView::Zoom);
+        if (id == kIdPlay) connect(item, &QAction::triggered, this, &CAFView::OnPlay);
     }
     UpdateCommands();
 }
@@ -190,14 +193,15 @@ void CAFView::openContextMenu(QPoint globalPosition) {
 // ---------------------------------------------------------------------------------------------------------------
 // Opening and closing
 
-void CAFView::stopAudio() {
-    // The recording and playing engines stop here once they exist; nothing runs before them.
-    Recording = false;
+// Whatever changes what is on screen ends the sound first: a play stops, and a take ends with its save question.
+void CAFView::StopAudio() {
+    if (Playing) StopPlaying();
+    if (Recording) StopRecording();
     Playing = false;
 }
 
 void CAFView::CloseRecording() {
-    stopAudio();
+    StopAudio();
     if (m_recording.SampleCount() > 0) {
         m_recording.freeSamples();
         m_labels.WriteLabelFile(m_recording.RecordingPath, m_prompt);
@@ -238,7 +242,7 @@ void CAFView::ShowEmpty() {
 }
 
 int CAFView::OpenRecording(int kind, int number) {
-    stopAudio();
+    StopAudio();
     const DisplayMode remembered = m_displayMode;
     CloseRecording();
     m_doc->SetTitle(QString::fromStdString(
@@ -260,7 +264,7 @@ int CAFView::OpenRecording(int kind, int number) {
 }
 
 int CAFView::OpenRecordingFile(const std::filesystem::path& path) {
-    stopAudio();
+    StopAudio();
     const DisplayMode remembered = m_displayMode;
     CloseRecording();
     WaitCursor wait;
@@ -323,7 +327,7 @@ void CAFView::applyRate(int sampleRate) {
 
 void CAFView::ShowSpectrogramPage() {
     if (isSpectrogramPage(m_displayMode)) return;
-    stopAudio();
+    StopAudio();
     m_displayMode = ModeAfterShowSpectrogram(m_displayMode, m_recording.hasSamples());
     resetLivePage();
     applyPanelOfPage();
@@ -331,7 +335,7 @@ void CAFView::ShowSpectrogramPage() {
 }
 
 void CAFView::ShowSpectrumPage() {
-    stopAudio();
+    StopAudio();
     m_displayMode = ModeAfterShowSpectrum(m_recording.hasSamples());
     resetLivePage();
     applyPanelOfPage();
@@ -351,9 +355,9 @@ void CAFView::resetLivePage() {
 }
 
 void CAFView::DrawLiveBlock(std::span<const std::int16_t> block) {
-    if (!isLiveMode(m_displayMode) || block.empty()) return;
+    if (!(isLiveMode(m_displayMode) || livePass()) || block.empty()) return;
     m_spectrogramObject.pushSamples(block);
-    if (m_displayMode == DisplayMode::LiveSpectrogramMode) {
+    if (isSpectrogramPage(m_displayMode)) {
         if (m_picture.size() != pictureDeviceRect().size()) m_picture.resize(pictureDeviceRect().size());
         const std::span<const std::uint8_t> column = m_spectrogramObject.computeLiveColumn(m_picture.size().height());
         for (int twice = 0; twice < 2; ++twice) {
@@ -362,7 +366,7 @@ void CAFView::DrawLiveBlock(std::span<const std::int16_t> block) {
             m_liveColumn = std::min(m_liveColumn + 1, m_picture.size().width() - 1);
         }
         m_liveTrace.addBlock(block);
-        if (f0Shown()) estimateLiveF0();
+        if (f0Shown() && !Playing) estimateLiveF0();  // a play reads its F0 from the curve
     } else {
         // A short block is too short for a spectrum of its own: the start of the ring stands in for it.
         const std::span<const std::int16_t> ring = m_spectrogramObject.ring();
@@ -499,7 +503,10 @@ SpectrumArea CAFView::pictureArea() const {
 }
 
 QString CAFView::durationText() const {
-    const std::int64_t count = m_recording.hasSamples() ? m_lastShown - m_firstShown : 0;
+    // While sound runs live, the time of the newest block.
+    const bool live = (Recording && !RecordPaused) || livePass();
+    const std::int64_t count =
+        live ? m_play.bytePosition / 2 - m_firstShown : (m_recording.hasSamples() ? m_lastShown - m_firstShown : 0);
     return QString::fromStdString(DurationText(count, rate()));
 }
 
@@ -650,6 +657,7 @@ void CAFView::paintEvent(QPaintEvent*) {
                          Qt::white);
         painter.restore();
     }
+    if (Playing && m_zoomed && m_play.cursorPosition > 0.0f) drawCursorLine(painter, m_play.cursorPosition);
     if (!m_readOutBox.isEmpty()) {
         painter.fillRect(m_readOutBox, QColor::fromRgb(kReadOutBackground));
         painter.setPen(QPen(Qt::black, 0));

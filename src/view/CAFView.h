@@ -20,6 +20,8 @@
 #include "analysis/FormantTracker.h"
 #include "analysis/PowerSpectrum.h"
 #include "analysis/Spectrogram.h"
+#include "audio/ChunkedPlayback.h"
+#include "audio/WaveDevice.h"
 #include "panels/ClassAux.h"
 #include "panels/CurveOverlays.h"
 #include "panels/PanelDefaults.h"
@@ -55,7 +57,22 @@ inline constexpr std::string_view kNoAdditionalInformation = QT_TRANSLATE_NOOP(
 // The working message of the frame while the F0 curve is computed; the formant tracker declares its own.
 inline constexpr std::string_view kCalculatingF0 = QT_TRANSLATE_NOOP("Sonalys", "Calculating F0...");
 
-class CAFView : public QWidget, public PanelAudio {
+// The end of a take: the question for a client's recording, and what a failed copy of a take made without a
+// client says.
+inline constexpr std::string_view kSaveActualFile =
+    QT_TRANSLATE_NOOP("Sonalys", "Do you Want to save the actual File?");
+inline constexpr std::string_view kErrorSavingFile = QT_TRANSLATE_NOOP("Sonalys", "Error saving File.");
+// The working message while a play of a paused capture is stopped.
+inline constexpr std::string_view kPleaseWait = QT_TRANSLATE_NOOP("Sonalys", "Please, Wait ....");
+// Said while the first seconds of a take hold nothing but silence: the default input is likely the wrong one.
+inline constexpr std::string_view kInputSilent = QT_TRANSLATE_NOOP(
+    "Sonalys", "No sound reaches the input: check the microphone, its level, and the default input of the system.");
+
+// Where a take made without a client goes: a path chosen in a save dialog that starts in `folder`, or an empty path
+// for Cancel. Tests put a scripted answer in its place.
+using TakeSaveChooser = std::function<std::filesystem::path(const std::filesystem::path& folder)>;
+
+class CAFView : public QWidget, public PanelAudio, private WaveInEvents, private WaveOutEvents {
     Q_OBJECT
 public:
     explicit CAFView(Prompt& prompt, QWidget* parent = nullptr);
@@ -64,6 +81,8 @@ public:
     DisplayMode displayMode() const { return m_displayMode; }
     // Closes what is open and goes back to the empty view, repainted at once.
     void ShowEmpty();
+    // Ends the sound before what is on screen changes: a play stops, and a take ends with its save question.
+    void StopAudio();
 
     // Idle means neither recording nor playing; the commands follow these.
     bool Recording = false;
@@ -191,6 +210,31 @@ public:
     void PausePlay() override;
     void RestartPlay() override;
     void SetRecordPaused(bool paused) override { RecordPaused = paused; }
+    void ArmCursor() override { m_play.cursorArmed = true; }
+
+    // ---- Recording
+    // The Record button of either panel and the Record command: a new take of the current client when none runs,
+    // otherwise the end of the take, its save question, and the take on screen as a file.
+    void OnRecord();
+    // The pause-record button: a paused take is loaded so that it can be looked at and played; pressed again,
+    // capture goes on where it stopped.
+    void OnPauseRecord();
+    // Bytes received since the take began (while recording), or the play's position.
+    std::int64_t bytePosition() const { return m_play.bytePosition; }
+    // The save dialog of a take made without a client.
+    void setTakeSaveChooser(TakeSaveChooser chooser) { m_chooseTakePath = std::move(chooser); }
+
+    // ---- Playing
+    // The Play command of the menus and of the strip's menu: the selection, the zoomed range or the whole
+    // recording; while a play runs, the same command stops it.
+    void OnPlay();
+    // The Play button of a panel, which also plays a paused take whole.
+    void OnPlayButton();
+    // The pause-play button: pauses a play, or lets it go on.
+    void OnPausePlay();
+    // Stops a play and waits until the device has closed.
+    void StopPlaying();
+    const ChunkedPlayback& playback() const { return m_play; }
 
 signals:
     // The state the commands depend on has changed.
@@ -208,6 +252,16 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    // The devices' events, delivered on this thread one by one.
+    void waveInOpened() override;
+    void waveInData(WaveHeader& header) override;
+    void waveInClosed() override;
+    void waveInFailed(int code) override;
+    void waveOutOpened() override;
+    void waveOutDone(WaveHeader& header) override;
+    void waveOutClosed() override;
+    void waveOutFailed(int code) override;
+
     struct CommandAction {
         int id;
         QAction* action;
@@ -215,7 +269,6 @@ private:
     };
 
     void createCommands();
-    void stopAudio();
     int loadFileSteps(DisplayMode remembered);
     void applyRate(int rate);
     void resetLivePage();
@@ -230,6 +283,8 @@ private:
     void drawOverlays();
     bool overlaysApply() const;
     void drawCurves(QPainter& painter);
+    void drawLiveDots(QPainter& painter, QRect graph, std::int64_t total, int scheme);
+    int pageColumn(int deviceColumn) const;
     void estimateLiveF0();
 
     // The page drawn anew into the off-screen images; a redraw of the strip drops any selection.
@@ -270,6 +325,33 @@ private:
     void onCurveColour(const QColor& colour);
     void onUpdateRate(int bytes, int index);
     void redrawSpectrumPage(bool withoutPlay);
+
+    // Recording: the steps of a start and of a stop, the live display, and a take paused and resumed.
+    void StartRecording();
+    void StopRecording();
+    bool startTake();
+    void endTake();
+    void keepOrDropTake();
+    void showTake();
+    void liveDisplay(std::span<const std::int16_t> block);
+    void watchForSilence(std::span<const std::int16_t> block);
+    void pauseCapture();
+    void resumeCapture();
+    void showRecordButtons(bool recording);
+    void restorePausedPage();
+
+    // Playing: the three kinds of play, the cursor of a zoomed play, and the end of a play.
+    bool openPlayer();
+    void playWhole();
+    void playCapture();
+    void playCaptureSelection(int selectionStart);
+    void StepCursor();
+    void drawCursorLine(QPainter& painter, float position) const;
+    void livePlayOverlays(std::int64_t bytePosition);
+    void playEnded();
+    void showPlayButtons(bool playing);
+    bool livePass() const;
+    void restartPlayAtNewRate();
 
     Prompt& m_prompt;
     CAFDoc* m_doc;
@@ -326,4 +408,21 @@ private:
     CMyBarra2* m_spectrumPanel = nullptr;
     WaveRecorder* m_recorder = nullptr;
     WavePlayer* m_player = nullptr;
+
+    // The take in progress: the mode before it, the live picture and strip kept while it is paused (and played), and
+    // whether its first seconds were silent.
+    TakeSaveChooser m_chooseTakePath;
+    DisplayMode m_modeBeforeTake = DisplayMode::LiveSpectrogramMode;
+    int m_pauseColumn = 0;
+    std::optional<SpectrogramPicture> m_pausedPicture;
+    std::optional<LiveTrace> m_pausedTrace;
+    std::int64_t m_silentSamples = 0;  // samples of the take checked for sound, up to a few seconds
+    bool m_soundHeard = false;
+
+    // The play in progress, its cursor, and the curve dots of a live pass: the sample shown at each column.
+    ChunkedPlayback m_play;
+    const std::int16_t* m_playBase = nullptr;  // the samples the play's offsets count from
+    std::int64_t m_playCount = 0;
+    bool m_playingCapture = false;  // the samples of a paused take are being played
+    std::vector<std::int64_t> m_liveDotSamples;
 };

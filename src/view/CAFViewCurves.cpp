@@ -132,17 +132,41 @@ void CAFView::drawOverlays() {
 // scale stands on the live page too, before any samples.
 void CAFView::drawCurves(QPainter& painter) {
     const bool samples = m_recording.hasSamples();
-    const QRect graph = m_layout.pictureRect();
+    QRect graph = m_layout.pictureRect();
+    // A paused take fills only the live columns it reached.
+    if (m_displayMode == DisplayMode::LiveSpectrogramMode) graph.setWidth(std::max(1, pageColumn(m_liveColumn)));
     const auto total = static_cast<std::int64_t>(m_recording.SampleCount());
     const int scheme = m_spectrogramSettings.colourScheme;
-    if (formantsShown() && samples) {
+    if (livePass()) {
+        drawLiveDots(painter, graph, total, scheme);
+    } else if (formantsShown() && samples) {
         const double upperHz = m_spectrogramObject.sampleRate() * 0.5 / m_spectrogramObject.zoom();
         DrawFormants(painter, graph, m_formantTrack, total, upperHz, m_firstShown, m_lastShown, scheme, m_f0Track);
     }
     if (f0Shown()) {
         const F0Range range = f0Range();
-        if (samples) DrawF0(painter, graph, m_f0Track, total, m_firstShown, m_lastShown, range, scheme);
+        if (samples && !livePass()) DrawF0(painter, graph, m_f0Track, total, m_firstShown, m_lastShown, range, scheme);
         DrawF0Axis(painter, F0AxisX(m_layout.GraphLeft, m_layout.GraphWidth, m_layout.LargeLayout), m_layout.GraphTop,
                    m_layout.GraphHeight, range, scheme);
     }
+}
+
+// During a live pass the curves grow with the picture: each column shows the dots of the sample heard when it was
+// drawn.
+void CAFView::drawLiveDots(QPainter& painter, QRect graph, std::int64_t total, int scheme) {
+    const double upperHz = m_spectrogramObject.sampleRate() * 0.5 / m_spectrogramObject.zoom();
+    const F0Range range = f0Range();
+    for (std::size_t column = 0; column < m_liveDotSamples.size(); ++column) {
+        const std::int64_t sample = m_liveDotSamples[column];
+        if (sample < 0) continue;
+        const int at = pageColumn(static_cast<int>(column));
+        if (formantsShown()) DrawFormantPoint(painter, graph, m_formantTrack, at, total, sample, upperHz, scheme);
+        if (f0Shown()) DrawF0Point(painter, graph, m_f0Track, at, total, sample, range, scheme);
+    }
+}
+
+// The live picture is painted a column per device pixel; the curves are drawn in page pixels.
+int CAFView::pageColumn(int deviceColumn) const {
+    const int deviceWidth = std::max(1, m_picture.size().width());
+    return static_cast<int>(static_cast<std::int64_t>(deviceColumn) * m_layout.pictureRect().width() / deviceWidth);
 }

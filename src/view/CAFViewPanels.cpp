@@ -25,6 +25,10 @@ void CAFView::createPanels() {
         panel->setAudio(this);
         connect(panel, &ClassAux::updateRateChanged, this, &CAFView::onUpdateRate);
         connect(panel, &ClassAux::rateClicked, this, [this, panel] { openRateMenu(*panel); });
+        connect(panel, &ClassAux::recordClicked, this, &CAFView::OnRecord);
+        connect(panel, &ClassAux::pauseRecordClicked, this, &CAFView::OnPauseRecord);
+        connect(panel, &ClassAux::playClicked, this, &CAFView::OnPlayButton);
+        connect(panel, &ClassAux::pausePlayClicked, this, &CAFView::OnPausePlay);
     }
     connect(m_spectrogramPanel, &CMyBarra::bandChanged, this, &CAFView::onBand);
     connect(m_spectrogramPanel, &ClassAux::limitChanged, this, &CAFView::onSpectrogramLimit);
@@ -215,4 +219,27 @@ void CAFView::onUpdateRate(int bytes, int index) {
     } else {
         m_recorder->SetUpdateRateBytes(bytes);
     }
+    if (Playing && !m_zoomed && !m_play.oneShot) restartPlayAtNewRate();
+}
+
+// A play of the whole recording goes on from where it is, cut into chunks of the new size, so that the live
+// picture follows at the new rate.
+void CAFView::restartPlayAtNewRate() {
+    m_play.rateChanging = true;
+    m_play.nextOffset = m_play.bytePosition;
+    const bool holdCapture = std::exchange(RecordPaused, Recording ? true : RecordPaused);
+    m_player->Reset();
+    m_player->WaitClosed();
+    m_play.rateChanging = false;
+    RecordPaused = holdCapture;
+    if (!openPlayer()) return;
+    const std::int64_t from = m_play.bytePosition / 2;
+    const PlayLayout layout{m_displayMode == DisplayMode::FileSpectrogramMode, false, m_layout.GraphWidth};
+    Playing = true;
+    if (!PlayChunked(m_play, *m_player, m_playBase + from, m_playCount - from, m_recorder->updateRateBytes() / 2,
+                     layout, m_prompt)) {
+        m_player->Close();
+        return;
+    }
+    showPlayButtons(true);
 }

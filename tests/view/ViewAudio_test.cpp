@@ -1,0 +1,196 @@
+// Recording and playing from the window against scripted sound devices: the panel's buttons drive the engines, every
+// buffer back reaches the live page, and a take ends kept, dropped or cut short as the user and the device decide.
+#include <QToolButton>
+
+#include "FakeWaveDevices.h"
+#include "ViewFixtures.h"
+#include "audio/WavePlayer.h"
+#include "audio/WaveRecorder.h"
+#include "base/ByteOrder.h"
+#include "panels/CMyBarra.h"
+#include "store/DateFile.h"
+
+namespace {
+
+constexpr int kBufferSamples = 229;  // the default Update Rate line at 11025 Hz gives buffers of 458 bytes
+
+// 16-bit values first, first + 1, ...: any value lost, doubled or moved shows.
+std::vector<std::int16_t> counting(std::size_t values, int first) {
+    std::vector<std::int16_t> out(values);
+    for (std::size_t i = 0; i < values; ++i) out[i] = static_cast<std::int16_t>(first + static_cast<int>(i));
+    return out;
+}
+
+// A view of client 1 with its own scripted devices and engines, on the live spectrogram page.
+struct AudioView {
+    ClientRoot client;
+    FakePrompt prompt;
+    FakeWaveInDevice input;
+    FakeWaveOutDevice output;
+    WaveRecorder recorder{input, prompt, client.root.path()};
+    WavePlayer player{output, prompt};
+    CAFView view{prompt};
+
+    AudioView() {
+        recorder.SetCrashMarkerEnabled(false);
+        view.setAudioEngines(&recorder, &player);
+        showForScreen(view, QSize(1024, 768));
+        view.setCurrentClient(client.folder, "Ana");
+        view.ShowSpectrogramPage();
+    }
+    CMyBarra& panel() const { return *view.spectrogramPanel(); }
+    void click(QToolButton* button) {
+        QTest::mouseClick(button, Qt::LeftButton);
+        pumpDeviceEvents();
+    }
+    void capture(const std::vector<std::int16_t>& samples) {
+        std::vector<std::uint8_t> bytes(samples.size() * 2);
+        samplesToLE(samples, bytes.data());
+        input.capture(bytes);
+        pumpDeviceEvents();
+    }
+    std::filesystem::path take(int number) const {
+        return client.folder.path() / QString::asprintf("wv%03d.wav", number).toStdString();
+    }
+};
+
+std::vector<std::int16_t> concat(std::vector<std::int16_t> a, const std::vector<std::int16_t>& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+}  // namespace
+
+class ViewAudioTest : public QObject {
+    Q_OBJECT
+private slots:
+    void aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile();
+    void aDroppedTakeLeavesNothingAndALostDeviceKeepsWhatCameIn();
+    void aPlayDrawsLiveStopsOnTheButtonAndPlaysAgain();
+    void aZoomedPlayMovesItsCursorOneStepPerChunk();
+};
+
+void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
+    AudioView a;
+    a.click(a.panel().RecordButton());
+    QVERIFY(a.view.Recording);
+    QVERIFY(a.panel().shows(a.panel().RecordButton(), PanelIcon::Stop));
+    QCOMPARE(a.view.document()->title(), QString("Ana  File - 1"));
+
+    const std::vector<std::int16_t> first = counting(20 * kBufferSamples, 0);
+    a.capture(first);
+    QCOMPARE(a.view.bytePosition(), static_cast<std::int64_t>(first.size() * 2));
+    QCOMPARE(a.view.picture().columnsDone(), 40);  // two columns per buffer
+    QVERIFY(a.view.liveTrace().count() > 0);
+
+    // Paused, the take so far is on screen; what the device brings meanwhile is thrown away.
+    a.click(a.panel().PauseRecordButton());
+    QVERIFY(std::ranges::equal(a.view.loadedRecording().samples(), first));
+    QVERIFY(a.panel().PlayButton()->isEnabled());
+    a.capture(counting(5 * kBufferSamples, 5000));
+    a.click(a.panel().PauseRecordButton());
+    QVERIFY(!a.view.loadedRecording().hasSamples());
+    const std::vector<std::int16_t> second = counting(10 * kBufferSamples, 10000);
+    a.capture(second);
+
+    a.prompt.answers = {true};
+    a.click(a.panel().RecordButton());
+    QVERIFY(!a.view.Recording);
+    QCOMPARE(a.prompt.last(), std::string("Do you Want to save the actual File?"));
+    QVERIFY(a.input.calls.back() == "close");
+    LoadedRecording kept;
+    QCOMPARE(kept.LoadSamples(a.take(1)), 1);
+    QVERIFY(std::ranges::equal(kept.samples(), concat(first, second)));
+    QVERIFY(ReadDateFile(recordingFilePath(a.client.folder, "wv", 1, "ddt"), a.prompt) > 0);
+    QCOMPARE(a.view.displayMode(), DisplayMode::FileSpectrogramMode);
+    QVERIFY(std::ranges::equal(a.view.loadedRecording().samples(), kept.samples()));
+    QVERIFY(a.panel().shows(a.panel().RecordButton(), PanelIcon::Record));
+}
+
+void ViewAudioTest::aDroppedTakeLeavesNothingAndALostDeviceKeepsWhatCameIn() {
+    AudioView a;
+    a.click(a.panel().RecordButton());
+    a.capture(counting(4 * kBufferSamples, 0));
+    a.prompt.answers = {false};
+    a.click(a.panel().RecordButton());
+    QVERIFY(!std::filesystem::exists(a.take(1)));
+    QVERIFY(!std::filesystem::exists(recordingFilePath(a.client.folder, "wv", 1, "ddt")));
+    QCOMPARE(a.view.displayMode(), DisplayMode::LiveSpectrogramMode);
+    QVERIFY(!a.view.loadedRecording().hasSamples());
+
+    // The same number again: the dropped take never took it.
+    a.click(a.panel().RecordButton());
+    const std::vector<std::int16_t> heard = counting(6 * kBufferSamples, 300);
+    a.capture(heard);
+    a.prompt.answers = {true};
+    a.input.fail(WAVERR_DEVICELOST);
+    pumpDeviceEvents();
+    QVERIFY(!a.view.Recording);
+    QCOMPARE(a.prompt.shown.at(a.prompt.shown.size() - 2), waveErrorText(WAVERR_DEVICELOST));
+    LoadedRecording kept;
+    QCOMPARE(kept.LoadSamples(a.take(1)), 1);
+    QVERIFY(std::ranges::equal(kept.samples(), heard));
+}
+
+void ViewAudioTest::aPlayDrawsLiveStopsOnTheButtonAndPlaysAgain() {
+    AudioView a;
+    const std::vector<std::int16_t> voice = sine(220.0, 11025, 2.0);
+    a.client.write("wv001.wav", waveBytes(voice, 11025));
+    QCOMPARE(a.view.OpenRecording(0, 1), 1);
+
+    for (int round = 0; round < 2; ++round) {
+        a.output.sounded.clear();
+        a.click(a.panel().PlayButton());
+        QVERIFY(a.view.Playing);
+        QVERIFY(a.panel().shows(a.panel().PlayButton(), PanelIcon::Stop));
+        QVERIFY(!a.panel().RecordButton()->isEnabled());
+        a.output.play(6);
+        pumpDeviceEvents();
+        QCOMPARE(a.view.picture().columnsDone(), 12);  // the live pass: two columns per header back
+        QVERIFY(std::ranges::equal(std::span(a.output.sounded).first(3000),
+                                   std::span(reinterpret_cast<const std::uint8_t*>(voice.data()), 3000)));
+        a.click(a.panel().PlayButton());
+        QVERIFY(!a.view.Playing);
+        QCOMPARE(a.output.queued(), std::size_t{0});
+        QVERIFY(a.output.calls.back() == "close");
+        QVERIFY(a.panel().shows(a.panel().PlayButton(), PanelIcon::Play));
+        QVERIFY(a.panel().RecordButton()->isEnabled());
+    }
+
+    // A selection plays in one header, exactly the samples under it.
+    dragInStrip(a.view, a.view.layout().GraphLeft + 100, a.view.layout().GraphLeft + 200);
+    a.output.sounded.clear();
+    a.view.OnPlay();
+    a.output.play(1);
+    pumpDeviceEvents();
+    const std::size_t perPixel = voice.size() / static_cast<std::size_t>(a.view.layout().GraphWidth);
+    QCOMPARE(a.output.sounded.size(), 100 * perPixel * 2);
+    QCOMPARE(std::memcmp(a.output.sounded.data(), voice.data() + 100 * perPixel, a.output.sounded.size()), 0);
+    QVERIFY(!a.view.Playing);
+}
+
+void ViewAudioTest::aZoomedPlayMovesItsCursorOneStepPerChunk() {
+    AudioView a;
+    a.client.write("wv001.wav", waveBytes(sine(220.0, 11025, 4.0), 11025));
+    QCOMPARE(a.view.OpenRecording(0, 1), 1);
+    dragInStrip(a.view, a.view.layout().GraphLeft + 50, a.view.layout().GraphLeft + 350);
+    a.view.Zoom();
+    a.view.OnPlay();
+    QVERIFY(a.view.Playing);
+    // Zoomed on the spectrogram page a chunk is about two pixels of the graph, and every header is queued at once.
+    const int width = a.view.layout().GraphWidth;
+    const std::int64_t chunks = a.view.playback().chunkCount;
+    QVERIFY(chunks >= width / 2 && chunks < width / 2 + 10);
+    QCOMPARE(a.output.queued(), static_cast<std::size_t>(chunks));
+    a.output.play(3);
+    pumpDeviceEvents();
+    const float step = chunks > width ? 1.0f : static_cast<float>(width) / static_cast<float>(chunks);
+    QCOMPARE(a.view.playback().cursorPosition, 1.0f + 3 * step);  // from 1, one step per chunk back
+    QVERIFY(a.view.zoomed());
+    a.view.OnPlay();  // the same command stops it
+    QVERIFY(!a.view.Playing);
+    QCOMPARE(a.view.playback().cursorPosition, 0.0f);
+}
+
+QTEST_MAIN(ViewAudioTest)
+#include "ViewAudio_test.moc"
