@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # A PulseAudio server for the audio tests: a named pipe as the default source (the tests write sound into it) and a
-# null sink as the default sink (the tests record its monitor), both 16-bit mono at 11025 Hz, so that what goes in
-# comes out sample for sample. The sink never rewinds: a rewind would make its monitor hear some sound twice.
+# null sink as the default sink (the tests record its monitor), both 16-bit mono at 11025 Hz (SONALYS_TEST_RATE
+# gives another rate, for measurements at 44100 Hz), so that what goes in comes out sample for sample. The sink never rewinds: a rewind would make its monitor hear some sound twice.
 #
 #   pulse-test-server.sh start NAME   when no server runs, starts one in user mode; when one runs, adds the two
 #                                     devices to it and makes them its defaults. Notes under NAME what it did.
@@ -18,7 +18,7 @@ state_dir="${SONALYS_PULSE_STATE:-/tmp/sonalys-pulse-$(id -u)}"
 state="$state_dir/$name.state"
 source_name=sonalys_capture
 sink_name=sonalys_playback
-spec="format=s16le rate=11025 channels=1"
+spec="format=s16le rate=${SONALYS_TEST_RATE:-11025} channels=1"
 
 server_up() { pactl info >/dev/null 2>&1; }
 

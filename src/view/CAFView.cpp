@@ -354,36 +354,6 @@ void CAFView::resetLivePage() {
     m_spectrumObject.resetAverage();
 }
 
-void CAFView::DrawLiveBlock(std::span<const std::int16_t> block) {
-    if (!(isLiveMode(m_displayMode) || livePass()) || block.empty()) return;
-    m_spectrogramObject.pushSamples(block);
-    if (isSpectrogramPage(m_displayMode)) {
-        if (m_picture.size() != pictureDeviceRect().size()) m_picture.resize(pictureDeviceRect().size());
-        const std::span<const std::uint8_t> column = m_spectrogramObject.computeLiveColumn(m_picture.size().height());
-        for (int twice = 0; twice < 2; ++twice) {
-            m_picture.paintColumn(m_liveColumn, column);
-            m_picture.setColumnsDone(std::max(m_picture.columnsDone(), m_liveColumn + 1));
-            m_liveColumn = std::min(m_liveColumn + 1, m_picture.size().width() - 1);
-        }
-        m_liveTrace.addBlock(block);
-        if (f0Shown() && !Playing) estimateLiveF0();  // a play reads its F0 from the curve
-    } else {
-        // A short block is too short for a spectrum of its own: the start of the ring stands in for it.
-        const std::span<const std::int16_t> ring = m_spectrogramObject.ring();
-        std::span<const std::int16_t> newest = block;
-        if (block.size() < 1024) {
-            newest = ring.first(std::min<std::size_t>(1024, ring.size()));
-        } else if (block.size() < 1280) {
-            newest = ring.first(std::min<std::size_t>(1280, ring.size()));
-        }
-        m_spectrumObject.computeSpectrum(newest);
-        m_spectrumObject.setValid(true);
-        m_liveTrace.addBlock(block.first(block.size() / 2));
-    }
-    rebuildPage(false);
-    update();
-}
-
 // ---------------------------------------------------------------------------------------------------------------
 // Pictures
 

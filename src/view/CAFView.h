@@ -283,7 +283,10 @@ private:
     void drawOverlays();
     bool overlaysApply() const;
     void drawCurves(QPainter& painter);
-    void drawLiveDots(QPainter& painter, QRect graph, std::int64_t total, int scheme);
+    void drawLiveDots(QPainter& painter, QRect graph, std::int64_t total, int scheme, std::size_t from = 0);
+    void drawReadout(QPainter& painter) const;
+    void liveBlock(std::span<const std::int16_t> block, std::int64_t dotSample);
+    void paintLiveParts(int firstColumn, int lastColumn);
     int pageColumn(int deviceColumn) const;
     void estimateLiveF0();
 
@@ -347,7 +350,7 @@ private:
     void playCaptureSelection(int selectionStart);
     void StepCursor();
     void drawCursorLine(QPainter& painter, float position) const;
-    void livePlayOverlays(std::int64_t bytePosition);
+    std::int64_t liveDotSample(std::int64_t bytePosition);
     void playEnded();
     void showPlayButtons(bool playing);
     bool livePass() const;

@@ -120,12 +120,16 @@ void CAFView::drawOverlays() {
     if (!isSpectrogramPage(m_displayMode) || m_computing || (!f0Shown() && !formantsShown())) return;
     QPainter painter(&m_savedGraph);
     painter.setTransform(m_layout.toWidget(QSizeF(size())));
+    drawReadout(painter);
+    drawCurves(painter);
+}
+
+void CAFView::drawReadout(QPainter& painter) const {
     if (f0Shown() && m_f0Readout > 0.0f) {
         DrawF0Readout(painter, f0ReadoutPoint(m_layout), m_f0Readout, QColor::fromRgb(kTextRowColour));
     } else {
         BlankReadout(painter, f0ReadoutPoint(m_layout), QColor::fromRgb(kTextRowColour));
     }
-    drawCurves(painter);
 }
 
 // F0 with its scale on the right of the graph, over the formants on the spectrogram's own frequency scale. The
@@ -153,10 +157,10 @@ void CAFView::drawCurves(QPainter& painter) {
 
 // During a live pass the curves grow with the picture: each column shows the dots of the sample heard when it was
 // drawn.
-void CAFView::drawLiveDots(QPainter& painter, QRect graph, std::int64_t total, int scheme) {
+void CAFView::drawLiveDots(QPainter& painter, QRect graph, std::int64_t total, int scheme, std::size_t from) {
     const double upperHz = m_spectrogramObject.sampleRate() * 0.5 / m_spectrogramObject.zoom();
     const F0Range range = f0Range();
-    for (std::size_t column = 0; column < m_liveDotSamples.size(); ++column) {
+    for (std::size_t column = from; column < m_liveDotSamples.size(); ++column) {
         const std::int64_t sample = m_liveDotSamples[column];
         if (sample < 0) continue;
         const int at = pageColumn(static_cast<int>(column));

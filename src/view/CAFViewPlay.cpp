@@ -218,8 +218,7 @@ void CAFView::waveOutDone(WaveHeader& header) {
     PlayHeaderBack(m_play, *m_player, header);
     if (!m_player->resetting() && header.dwBufferLength > 0 && livePass()) {
         const auto* played = reinterpret_cast<const std::int16_t*>(header.lpData);
-        DrawLiveBlock({played, header.dwBufferLength / 2});
-        livePlayOverlays(m_play.bytePosition);
+        liveBlock({played, header.dwBufferLength / 2}, liveDotSample(m_play.bytePosition));
     } else if (Playing && m_zoomed && !m_play.oneShot && !m_player->resetting() && !m_play.rateChanging) {
         StepCursor();
     }
@@ -239,20 +238,17 @@ void CAFView::waveOutClosed() {
 
 void CAFView::waveOutFailed(int code) { m_player->OnFailed(code); }
 
-// The dots of the shown curves at the moving edge of a live pass, and the F0 of the sound heard in the read-out.
-void CAFView::livePlayOverlays(std::int64_t bytePosition) {
-    if (m_displayMode != DisplayMode::FileSpectrogramMode || (!f0Shown() && !formantsShown())) return;
+// The sample whose curve dots stand at the moving edge of a live pass, and whose F0 the read-out shows: the sound
+// being heard, which lags the newest header back. -1 with no curve shown.
+std::int64_t CAFView::liveDotSample(std::int64_t bytePosition) {
+    if (m_displayMode != DisplayMode::FileSpectrogramMode || (!f0Shown() && !formantsShown())) return -1;
     const int updateBytes = m_recorder->updateRateBytes();
     const std::int64_t sample = bytePosition / 2 - 2 * updateBytes - soundLag(updateBytes);
-    const auto column = static_cast<std::size_t>(std::max(m_liveColumn, 0));
-    if (m_liveDotSamples.size() <= column) m_liveDotSamples.resize(column + 1, -1);
-    m_liveDotSamples[column] = sample;
     if (f0Shown() && m_f0Track.valid) {
         const int frame = F0FrameOfSample(m_f0Track, static_cast<std::int64_t>(m_recording.SampleCount()), sample);
         m_f0Readout = frame >= 0 ? m_f0Track.values[static_cast<std::size_t>(frame)] : 0.0f;
     }
-    drawOverlays();
-    update();
+    return sample;
 }
 
 // A zoomed play moves a one-pixel line over the graph and the strip, one step per chunk come back.

@@ -17,13 +17,13 @@ QString text(std::string_view english) { return uiText(english); }
 constexpr int kCaptionHeight = 25;
 constexpr int kLineHeight = 13;
 
+}  // namespace
+
 // The small layout's row is lower than the caption and the format line under it: the band reaches down to hold
 // them both.
-int captionBandBottom(const ViewLayout& layout) {
+int CaptionBandBottom(const ViewLayout& layout) {
     return std::max(layout.TitleTop + layout.TitleHeight, CaptionTop(layout) + kCaptionHeight + kLineHeight);
 }
-
-}  // namespace
 
 std::string DurationText(std::int64_t count, int rate) {
     if (rate <= 0) rate = 1;
@@ -79,7 +79,7 @@ void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mod
     const QRectF window = painter.worldTransform().inverted().mapRect(QRectF(painter.viewport()));
     painter.save();
     painter.fillRect(
-        QRectF(QPointF(window.left(), std::min(0.0, window.top())), QPointF(window.right(), captionBandBottom(layout))),
+        QRectF(QPointF(window.left(), std::min(0.0, window.top())), QPointF(window.right(), CaptionBandBottom(layout))),
         QColor::fromRgb(kTextRowColour));
     painter.setPen(Qt::black);
     painter.setFont(CaptionFont());

@@ -59,6 +59,8 @@ void DrawGraphFrame(QPainter& painter, const ViewLayout& layout);
 // The panel band and the read-out row in the face colour, the page's caption, and "Time: " with `duration`.
 // The top of the row of the large captions (the page and the time).
 int CaptionTop(const ViewLayout& layout);
+// The bottom of the band of text rows above the graph (caption, format and file lines), in page pixels.
+int CaptionBandBottom(const ViewLayout& layout);
 void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mode, const QString& duration);
 // The format line under the caption, 176 pixels across from the left of the layout (moved with its offset).
 void DrawFormatLine(QPainter& painter, const ViewLayout& layout, const QString& text);
