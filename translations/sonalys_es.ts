@@ -1175,5 +1175,9 @@ Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translat
         <source>No sound reaches the input: check the microphone, its level, and the default input of the system.</source>
         <translation>No llega sonido a la entrada: compruebe el micrófono, su nivel y la entrada predeterminada del sistema.</translation>
     </message>
+    <message>
+        <source>Attention: the sound reached full scale (clipping) in this take.</source>
+        <translation>Atención: el sonido alcanzó el nivel máximo (saturación) en esta grabación.</translation>
+    </message>
 </context>
 </TS>
