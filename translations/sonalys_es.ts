@@ -1179,5 +1179,9 @@ Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translat
         <source>Attention: the sound reached full scale (clipping) in this take.</source>
         <translation>Atención: el sonido alcanzó el nivel máximo (saturación) en esta grabación.</translation>
     </message>
+    <message>
+        <source>Input level (peak and RMS, dBFS)</source>
+        <translation>Nivel de entrada (pico y RMS, dBFS)</translation>
+    </message>
 </context>
 </TS>

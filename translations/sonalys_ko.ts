@@ -1179,5 +1179,9 @@ It is opened read-only and no change is written to it.</source>
         <source>Attention: the sound reached full scale (clipping) in this take.</source>
         <translation>주의: 이번 녹음에서 소리가 최대 레벨에 도달했습니다(클리핑).</translation>
     </message>
+    <message>
+        <source>Input level (peak and RMS, dBFS)</source>
+        <translation>입력 레벨 (피크 및 RMS, dBFS)</translation>
+    </message>
 </context>
 </TS>

@@ -1179,5 +1179,9 @@ Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</trans
         <source>Attention: the sound reached full scale (clipping) in this take.</source>
         <translation>Atenção: o som atingiu o nível máximo (saturação) nesta gravação.</translation>
     </message>
+    <message>
+        <source>Input level (peak and RMS, dBFS)</source>
+        <translation>Nível de entrada (pico e RMS, dBFS)</translation>
+    </message>
 </context>
 </TS>
