@@ -103,6 +103,8 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     RecordInput = ReadRecordInput(m_home, 0);
     m_mixer = new MixerVolumes(this);
     m_mixer->SetUp(app.makeVolume, RecordInput, m_prompt);
+    m_mixer->attachSlider(MixerLine::Master, *m_view->masterSlider());
+    m_mixer->attachSlider(MixerLine::Input, *m_view->inputSlider());
     f0Range = kStartF0Range;
     CurrentClient = PacienteRecord{};
     // A first start in an empty data root simply has an empty client base.

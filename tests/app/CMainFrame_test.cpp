@@ -14,6 +14,7 @@
 #include "app/CAbrirSessao.h"
 #include "app/CPaciente.h"
 #include "controls/ReportList.h"
+#include "controls/VolumeSlider.h"
 #include "view/CAFView.h"
 
 namespace fs = std::filesystem;
@@ -94,6 +95,7 @@ void CMainFrameTest::aClientOpensOnlyWithItsFolderAndItsRecordingGoesToTheView()
     QCOMPARE(frame.view()->displayMode(), DisplayMode::FileSpectrogramMode);
     QCOMPARE(frame.view()->loadedRecording().RecordingNumber, 2);
     QCOMPARE(frame.windowTitle(), QString("Maria Helena Costa  File - 2 - Sonalys"));
+    QVERIFY(!frame.view()->masterSlider()->isHidden() && !frame.view()->inputSlider()->isHidden());
 }
 
 void CMainFrameTest::openCreateEditAndDeleteAClientOnTheDemoRoot() {
