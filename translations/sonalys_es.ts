@@ -1183,5 +1183,9 @@ Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translat
         <source>Input level (peak and RMS, dBFS)</source>
         <translation>Nivel de entrada (pico y RMS, dBFS)</translation>
     </message>
+    <message>
+        <source>Wait, starting audio devices...</source>
+        <translation>Espere, iniciando los dispositivos de audio...</translation>
+    </message>
 </context>
 </TS>

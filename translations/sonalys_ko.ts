@@ -1183,5 +1183,9 @@ It is opened read-only and no change is written to it.</source>
         <source>Input level (peak and RMS, dBFS)</source>
         <translation>입력 레벨 (피크 및 RMS, dBFS)</translation>
     </message>
+    <message>
+        <source>Wait, starting audio devices...</source>
+        <translation>잠시 기다려 주십시오. 오디오 장치를 시작하는 중입니다...</translation>
+    </message>
 </context>
 </TS>

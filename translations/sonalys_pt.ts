@@ -1183,5 +1183,9 @@ Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</trans
         <source>Input level (peak and RMS, dBFS)</source>
         <translation>Nível de entrada (pico e RMS, dBFS)</translation>
     </message>
+    <message>
+        <source>Wait, starting audio devices...</source>
+        <translation>Aguarde, iniciando os dispositivos de áudio...</translation>
+    </message>
 </context>
 </TS>
