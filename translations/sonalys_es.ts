@@ -1175,5 +1175,17 @@ Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translat
         <source>No sound reaches the input: check the microphone, its level, and the default input of the system.</source>
         <translation>No llega sonido a la entrada: compruebe el micrófono, su nivel y la entrada predeterminada del sistema.</translation>
     </message>
+    <message>
+        <source>Attention: the sound reached full scale (clipping) in this take.</source>
+        <translation>Atención: el sonido alcanzó el nivel máximo (saturación) en esta grabación.</translation>
+    </message>
+    <message>
+        <source>Input level (peak and RMS, dBFS)</source>
+        <translation>Nivel de entrada (pico y RMS, dBFS)</translation>
+    </message>
+    <message>
+        <source>Wait, starting audio devices...</source>
+        <translation>Espere, iniciando los dispositivos de audio...</translation>
+    </message>
 </context>
 </TS>

@@ -1175,5 +1175,17 @@ It is opened read-only and no change is written to it.</source>
         <source>No sound reaches the input: check the microphone, its level, and the default input of the system.</source>
         <translation>입력에 소리가 들어오지 않습니다. 마이크와 입력 레벨, 시스템의 기본 입력 장치를 확인하십시오.</translation>
     </message>
+    <message>
+        <source>Attention: the sound reached full scale (clipping) in this take.</source>
+        <translation>주의: 이번 녹음에서 소리가 최대 레벨에 도달했습니다(클리핑).</translation>
+    </message>
+    <message>
+        <source>Input level (peak and RMS, dBFS)</source>
+        <translation>입력 레벨 (피크 및 RMS, dBFS)</translation>
+    </message>
+    <message>
+        <source>Wait, starting audio devices...</source>
+        <translation>잠시 기다려 주십시오. 오디오 장치를 시작하는 중입니다...</translation>
+    </message>
 </context>
 </TS>

@@ -1175,5 +1175,17 @@ Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</trans
         <source>No sound reaches the input: check the microphone, its level, and the default input of the system.</source>
         <translation>Nenhum som chega à entrada: verifique o microfone, o nível dele e a entrada padrão do sistema.</translation>
     </message>
+    <message>
+        <source>Attention: the sound reached full scale (clipping) in this take.</source>
+        <translation>Atenção: o som atingiu o nível máximo (saturação) nesta gravação.</translation>
+    </message>
+    <message>
+        <source>Input level (peak and RMS, dBFS)</source>
+        <translation>Nível de entrada (pico e RMS, dBFS)</translation>
+    </message>
+    <message>
+        <source>Wait, starting audio devices...</source>
+        <translation>Aguarde, iniciando os dispositivos de áudio...</translation>
+    </message>
 </context>
 </TS>

@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "app/AudioStartBox.h"
 #include "app/CAFApp.h"
 #include "app/CAboutDlg.h"
 #include "app/CAbrirPaciente.h"
@@ -102,7 +103,9 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     createStatusBar();
     RecordInput = ReadRecordInput(m_home, 0);
     m_mixer = new MixerVolumes(this);
-    m_mixer->SetUp(app.makeVolume, RecordInput, m_prompt);
+    SetUpMixerWithWaitBox(*m_mixer, app.makeVolume, RecordInput, m_prompt, this);
+    m_mixer->attachSlider(MixerLine::Master, *m_view->masterSlider());
+    m_mixer->attachSlider(MixerLine::Input, *m_view->inputSlider());
     f0Range = kStartF0Range;
     CurrentClient = PacienteRecord{};
     // A first start in an empty data root simply has an empty client base.

@@ -32,7 +32,6 @@ CVolume::CVolume(MixerVolumes& mixer, int recordInput, QWidget* parent) : QDialo
     buttons->addButton(uiText(kCloseButton), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    connect(&m_mixer, &MixerVolumes::levelChanged, this, &CVolume::levelChanged);
 }
 
 void CVolume::addColumn(MixerLine line, std::string_view caption) {
@@ -41,13 +40,5 @@ void CVolume::addColumn(MixerLine line, std::string_view caption) {
     auto* slider = new VolumeSlider(this);
     slider->setMinimumHeight(kSliderHeight);
     m_sliders[i] = slider;
-    IVolume* volume = m_mixer.line(line);
-    if (volume == nullptr) return;
-    slider->setLine(volume->GetMinimum(), volume->GetMaximum());
-    slider->setLevel(volume->GetCurrent());
-    connect(slider, &VolumeSlider::levelMoved, this, [this, line](int level) {
-        if (IVolume* moved = m_mixer.line(line)) moved->SetCurrent(level);
-    });
+    m_mixer.attachSlider(line, *slider);
 }
-
-void CVolume::levelChanged(MixerLine line, int value) { slider(line)->setLevel(value); }

@@ -31,7 +31,6 @@ public:
 
 private:
     void addColumn(MixerLine line, std::string_view caption);
-    void levelChanged(MixerLine line, int value);
 
     MixerVolumes& m_mixer;
     std::array<VolumeSlider*, 3> m_sliders{};

@@ -13,6 +13,7 @@
 #include "audio/SoundServerMixer.h"
 
 class StreamVolume;
+class VolumeSlider;
 struct Prompt;
 
 // The questions of the set-up; No gives up every mixer line.
@@ -46,13 +47,21 @@ public:
     // The line's object, or null when the line is missing.
     IVolume* line(MixerLine which) const { return m_lines[index(which)].get(); }
 
+    // Ties a slider to a line for the slider's life: it takes the line's range and level, and again whenever the
+    // line is made anew, is disabled while the line is missing, writes the level the user moves it to, and follows a
+    // change made elsewhere.
+    void attachSlider(MixerLine which, VolumeSlider& slider);
+
 signals:
     void levelChanged(MixerLine line, int value);
+    // The line's object was made anew or dropped.
+    void lineReplaced(MixerLine line);
 
 private:
     static std::size_t index(MixerLine which) { return static_cast<std::size_t>(which); }
     // Keeps the object if it opens, and passes its outside changes on.
     bool adopt(MixerLine which, std::unique_ptr<IVolume> volume);
+    void showLine(MixerLine which, VolumeSlider& slider) const;
 
     Factory m_make;
     std::array<std::unique_ptr<IVolume>, 3> m_lines;

@@ -13,6 +13,7 @@
 #include <QPolygon>
 #include <QToolButton>
 
+#include "controls/LevelMeter.h"
 #include "controls/UiText.h"
 #include "panels/PanelDefaults.h"
 
@@ -64,6 +65,7 @@ ClassAux::ClassAux(const std::vector<std::string_view>& updateRateLines,
     m_pauseRecord->setEnabled(false);
     m_play->setEnabled(false);
     m_pausePlay->setEnabled(false);
+    m_inputMeter = new LevelMeter(this);
 
     m_updateRate = addList(kIdUpdateRate, updateRateLines, 3);
     keepText(m_updateRate, kTipUpdateRate, true);
@@ -77,6 +79,8 @@ ClassAux::ClassAux(const std::vector<std::string_view>& updateRateLines,
     // The buttons and the Update Rate list stand alike on both panels.
     place(m_record, {2, 12, 22, 22});
     place(m_pauseRecord, {26, 12, 22, 22});
+    // The input meter takes the free row above the two record buttons, up to the rate button's caption.
+    place(m_inputMeter, {2, 3, 42, 7});
     place(m_rateButton, {50, 12, 22, 22});
     place(addCaption(kCaptionRate), {44, 0, 34, 12});
     place(m_play, {78, 12, 22, 22});

@@ -14,6 +14,7 @@
 #include <QWidget>
 #include <QtGlobal>
 
+class LevelMeter;
 class QAbstractButton;
 class QComboBox;
 class QLabel;
@@ -126,6 +127,8 @@ public:
     QToolButton* PausePlayButton() const { return m_pausePlay; }
     QToolButton* PauseRecordButton() const { return m_pauseRecord; }
     QToolButton* RateButton() const { return m_rateButton; }
+    // The level of the input while recording, above the record and pause-record buttons.
+    LevelMeter* InputMeter() const { return m_inputMeter; }
     QComboBox* UpdateRateBox() const { return m_updateRate; }
     QComboBox* LimitBox() const { return m_limit; }
 
@@ -206,6 +209,7 @@ private:
     QToolButton* m_rateButton = nullptr;
     QToolButton* m_play = nullptr;
     QToolButton* m_pausePlay = nullptr;
+    LevelMeter* m_inputMeter = nullptr;
 
     int m_stripLeft = 0;
     int m_stripTop = 0;

@@ -482,6 +482,7 @@ QString CAFView::durationText() const {
 
 void CAFView::rebuildPage(bool dropSelection) {
     placePanels();
+    placeSliders();
     const qreal ratio = devicePixelRatioF();
     const QSize device(std::max(1, static_cast<int>(std::lround(width() * ratio))),
                        std::max(1, static_cast<int>(std::lround(height() * ratio))));

@@ -22,6 +22,7 @@
 #include "analysis/Spectrogram.h"
 #include "audio/ChunkedPlayback.h"
 #include "audio/WaveDevice.h"
+#include "controls/VolumeSlider.h"
 #include "panels/ClassAux.h"
 #include "panels/CurveOverlays.h"
 #include "panels/PanelDefaults.h"
@@ -188,6 +189,12 @@ public:
     const QStringList& readOutLines() const { return m_readOutLines; }
     // The spectrogram's pixels on the device: where the picture is painted one column per pixel.
     QRect pictureDeviceRect() const;
+
+    // ---- The two volume sliders beside the graph: the speakers' master level and the recording input's level. The
+    // main window gives them their mixer lines; the view places them under the input captions and hides them on the
+    // empty view.
+    VolumeSlider* masterSlider() const { return m_masterSlider; }
+    VolumeSlider* inputSlider() const { return m_inputSlider; }
 
     // ---- Side panels and the audio engines
     // The panel of the page on screen: CMyBarra on the spectrogram page, CMyBarra2 on the power-spectrum page, none
@@ -406,6 +413,10 @@ private:
     std::vector<CommandAction> m_commands;
     QMenu* m_contextMenu = nullptr;
     QTimer* m_sharpenTimer = nullptr;
+
+    void placeSliders();
+    VolumeSlider* m_masterSlider = new VolumeSlider(this);
+    VolumeSlider* m_inputSlider = new VolumeSlider(this);
 
     CMyBarra* m_spectrogramPanel = nullptr;
     CMyBarra2* m_spectrumPanel = nullptr;

@@ -111,8 +111,12 @@ void DrawFileLine(QPainter& painter, const ViewLayout& layout, const QString& li
     painter.restore();
 }
 
+QRect InputBox(const ViewLayout& layout) {
+    return QRect(layout.GraphLeft - (layout.LargeLayout ? 136 : 90), layout.GraphTop, 40, layout.GraphHeight);
+}
+
 void DrawInputCaptions(QPainter& painter, const ViewLayout& layout, bool lineInput) {
-    const int left = layout.GraphLeft - (layout.LargeLayout ? 136 : 90);
+    const int left = InputBox(layout).left();
     painter.save();
     painter.setPen(Qt::black);
     painter.setFont(InputCaptionFont());

@@ -66,6 +66,9 @@ void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mod
 void DrawFormatLine(QPainter& painter, const ViewLayout& layout, const QString& text);
 // "File:" and its text, on the format line's row, ending at the graph's right edge.
 void DrawFileLine(QPainter& painter, const ViewLayout& layout, const QString& text);
+// The box left of the graph, as high as the graph: "Vol" and, under it, "Mic" or "Line" take its top 40 pixels, and
+// the master and input volume sliders stand under them.
+QRect InputBox(const ViewLayout& layout);
 // "Vol" and, under it, "Mic" or "Line", in the box left of the graph.
 void DrawInputCaptions(QPainter& painter, const ViewLayout& layout, bool lineInput);
 // Seven time labels under the graph, with a tick over each but the first; the area is first cleared white.

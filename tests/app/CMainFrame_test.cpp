@@ -1,6 +1,8 @@
 #include "app/CMainFrame.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -8,12 +10,14 @@
 #include <QTest>
 
 #include "DataRoot.h"
+#include "FakeVolume.h"
 #include "ModalDriver.h"
 #include "ProgramOnRoot.h"
 #include "app/CAbrirPaciente.h"
 #include "app/CAbrirSessao.h"
 #include "app/CPaciente.h"
 #include "controls/ReportList.h"
+#include "controls/VolumeSlider.h"
 #include "view/CAFView.h"
 
 namespace fs = std::filesystem;
@@ -68,6 +72,7 @@ private slots:
     void openCreateEditAndDeleteAClientOnTheDemoRoot();
     void otherFilesWorksWithoutAClientAndGoesWhenDeleted();
     void anUnknownTypeKeepsTheRange();
+    void theMixerStartsUnderAWaitBoxAndDrivesTheSlidersBesideTheGraph();
 };
 
 void CMainFrameTest::aClientOpensOnlyWithItsFolderAndItsRecordingGoesToTheView() {
@@ -94,6 +99,7 @@ void CMainFrameTest::aClientOpensOnlyWithItsFolderAndItsRecordingGoesToTheView()
     QCOMPARE(frame.view()->displayMode(), DisplayMode::FileSpectrogramMode);
     QCOMPARE(frame.view()->loadedRecording().RecordingNumber, 2);
     QCOMPARE(frame.windowTitle(), QString("Maria Helena Costa  File - 2 - Sonalys"));
+    QVERIFY(!frame.view()->masterSlider()->isHidden() && !frame.view()->inputSlider()->isHidden());
 }
 
 void CMainFrameTest::openCreateEditAndDeleteAClientOnTheDemoRoot() {
@@ -164,6 +170,34 @@ void CMainFrameTest::anUnknownTypeKeepsTheRange() {
     QCOMPARE(program.prompt.shown, std::vector<std::string>{"Undefined Type!"});
     QCOMPARE(frame.f0Range, (F0Range{120, 400}));
     QCOMPARE(frame.CurrentClient.Codigo, 2);
+}
+
+void CMainFrameTest::theMixerStartsUnderAWaitBoxAndDrivesTheSlidersBesideTheGraph() {
+    const auto waitBoxShown = [] {
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            const auto* text = window->findChild<QLabel*>();
+            if (window->isVisible() && text != nullptr && text->text() == "Wait, starting audio devices...")
+                return true;
+        }
+        return false;
+    };
+    TempDir root;
+    ScriptedMixer lines(true, {1});  // a card with a line input alone
+    std::vector<bool> shownWhileMade;
+    ProgramOnRoot program(root.path(), [&](MixerLine line, int input) {
+        shownWhileMade.push_back(waitBoxShown());
+        program.prompt.whenShown = [&] { shownWhileMade.push_back(waitBoxShown()); };
+        return lines.factory()(line, input);
+    });
+    // The box stands while the master and input lines are made, and is gone when the microphone is asked about.
+    QCOMPARE(shownWhileMade, (std::vector<bool>{true, true, false}));
+    QCOMPARE(program.prompt.shown, std::vector<std::string>{"Mic. Input can´t be found!\nDo You want to Continue?"});
+    QVERIFY(!waitBoxShown());
+    CAFView& view = *program.frame().view();
+    QVERIFY(view.masterSlider()->isHidden());  // the empty view has no graph to stand beside
+    QVERIFY(view.masterSlider()->isEnabled() && !view.inputSlider()->isEnabled());
+    view.masterSlider()->setValue(70 - 35);
+    QCOMPARE(lines.master->writes.back(), (std::vector<int>{35, 35}));
 }
 
 QTEST_MAIN(CMainFrameTest)

@@ -1,4 +1,5 @@
-// The volume dialog over scripted mixer lines: a line the card lacks leaves its slider disabled.
+// The volume sliders over scripted mixer lines: a line the card lacks leaves its slider disabled, a slider moved
+// writes its level, and a level changed elsewhere moves it.
 #include <QLabel>
 #include <QTest>
 
@@ -12,6 +13,7 @@ class CVolumeTest : public QObject {
     Q_OBJECT
 private slots:
     void aMissingLineDisablesItsSlider();
+    void anAttachedSliderWritesAndFollowsItsLineAsItIsMadeAnew();
 };
 
 void CVolumeTest::aMissingLineDisablesItsSlider() {
@@ -29,6 +31,30 @@ void CVolumeTest::aMissingLineDisablesItsSlider() {
     CVolume line(mixer, 1);
     QCOMPARE(line.caption(MixerLine::Input)->text(), QString("Line"));
     QVERIFY(!line.slider(MixerLine::Input)->isEnabled());
+}
+
+void CVolumeTest::anAttachedSliderWritesAndFollowsItsLineAsItIsMadeAnew() {
+    FakePrompt prompt;
+    ScriptedMixer lines(true, {0});  // lines from 0 to 70 at level 20, two channels
+    MixerVolumes mixer;
+    mixer.SetUp(lines.factory(), 0, prompt);
+    VolumeSlider master, input;
+    mixer.attachSlider(MixerLine::Master, master);
+    mixer.attachSlider(MixerLine::Input, input);
+    QCOMPARE(input.maximum(), 70);
+    QCOMPARE(input.tickInterval(), 10);  // a seventh of the range
+    QCOMPARE(input.value(), 70 - 20);    // upside down: the loudest level at the top
+
+    master.setValue(70 - 35);  // as when the user drags it
+    QCOMPARE(lines.master->writes.back(), (std::vector<int>{35, 35}));
+    lines.input->changeFromOutside(60);
+    QCOMPARE(input.value(), 10);
+
+    QVERIFY(!mixer.SetInput(1));  // no line input on this card: the slider waits disabled
+    QVERIFY(!input.isEnabled());
+    QVERIFY(mixer.SetInput(0));
+    QVERIFY(input.isEnabled());
+    QCOMPARE(input.value(), 70 - 20);
 }
 
 QTEST_MAIN(CVolumeTest)

@@ -8,15 +8,17 @@
 #include "TempDir.h"
 #include "app/CAFApp.h"
 #include "app/CMainFrame.h"
+#include "app/MixerVolumes.h"
 
 struct ProgramOnRoot {
     FakePrompt prompt;
     std::unique_ptr<CAFApp> app;
 
-    explicit ProgramOnRoot(const std::filesystem::path& root) {
+    // The machine's own sound server is left alone: no mixer, unless the test gives scripted lines.
+    explicit ProgramOnRoot(const std::filesystem::path& root, MixerVolumes::Factory volumes = nullptr) {
         app = std::make_unique<CAFApp>(root, prompt);
         app->startProgram = [](const QString&, const QStringList&) { return false; };
-        app->makeVolume = nullptr;  // the machine's own sound server is left alone
+        app->makeVolume = std::move(volumes);
         app->InitInstance({"sonalys", "-Embedding"});
     }
     CMainFrame& frame() const { return *app->mainFrame(); }

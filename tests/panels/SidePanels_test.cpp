@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "ViewFixtures.h"
+#include "controls/LevelMeter.h"
 #include "panels/CColorMenu.h"
 #include "panels/CMyBarra.h"
 #include "panels/CMyBarra2.h"
@@ -304,6 +305,19 @@ void SidePanelsTest::picturesOfEachPanelOnItsPage() {
         const QRect row = view.layout().toWidget(QSizeF(view.size())).mapRect(QRect(0, view.layout().TitleTop, 1, 1));
         QVERIFY(panel->geometry().bottom() < row.top());
         QVERIFY(view.rect().contains(panel->geometry()));
+        // The input meter stands over the two record buttons and covers no other control; a peak at -4.3 dBFS
+        // (20000 of 32768) shows amber.
+        LevelMeter* meter = panel->InputMeter();
+        const QRect record = panel->RecordButton()->geometry().united(panel->PauseRecordButton()->geometry());
+        QVERIFY(meter->geometry().bottom() < record.top() && meter->geometry().left() >= record.left());
+        QVERIFY(meter->geometry().right() <= record.right());
+        for (const QWidget* control : panel->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            QVERIFY(control == meter || !control->isVisible() || !control->geometry().intersects(meter->geometry()));
+        InputLevel level;
+        level.addBlock(std::vector<std::int16_t>{20000, -20000, 6000, -6000});
+        meter->setLevel(level);
+        QCOMPARE(meter->grab().toImage().pixelColor(1, meter->height() / 2),
+                 LevelMeter::zoneColour(LevelZone::NearFullScale));
         const QString name = QString("panel-%1-%2x%3").arg(spectrum ? "spectrum" : "spectrogram");
         QVERIFY(view.grab().save(folder + "/" + name.arg(screen.width()).arg(screen.height()) + ".png"));
     }

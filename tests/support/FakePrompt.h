@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,17 +12,24 @@
 
 class FakePrompt : public Prompt {
 public:
-    std::vector<std::string> shown;  // every message and question, in the order shown
-    std::deque<bool> answers;        // answers to the coming questions, first first
-    bool defaultAnswer = true;       // the answer once `answers` has run out
+    std::vector<std::string> shown;   // every message and question, in the order shown
+    std::deque<bool> answers;         // answers to the coming questions, first first
+    bool defaultAnswer = true;        // the answer once `answers` has run out
+    std::function<void()> whenShown;  // called as each message or question comes, to look at the screen then
 
-    void showOk(std::string_view text) override { shown.emplace_back(text); }
+    void showOk(std::string_view text) override { record(text); }
     bool askYesNo(std::string_view text) override {
-        shown.emplace_back(text);
+        record(text);
         if (answers.empty()) return defaultAnswer;
         const bool answer = answers.front();
         answers.pop_front();
         return answer;
     }
     std::string last() const { return shown.empty() ? std::string() : shown.back(); }
+
+private:
+    void record(std::string_view text) {
+        shown.emplace_back(text);
+        if (whenShown) whenShown();
+    }
 };
