@@ -102,6 +102,7 @@ CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
     createToolBar();
     createStatusBar();
     RecordInput = ReadRecordInput(m_home, 0);
+    m_view->LineInput = RecordInput == kLineInput;
     m_mixer = new MixerVolumes(this);
     SetUpMixerWithWaitBox(*m_mixer, app.makeVolume, RecordInput, m_prompt, this);
     m_mixer->attachSlider(MixerLine::Master, *m_view->masterSlider());
@@ -519,6 +520,7 @@ void CMainFrame::RecordSetting() {
     CConfGravar dialog(RecordInput, this);
     if (dialog.exec() != QDialog::Accepted) return;
     RecordInput = ApplyRecordInput(RecordInput, dialog.Input(), *m_mixer, m_prompt, m_home);
+    m_view->LineInput = RecordInput == kLineInput;
     m_view->update();
 }
 

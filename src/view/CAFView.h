@@ -18,6 +18,7 @@
 #include <QtGlobal>
 
 #include "analysis/FormantTracker.h"
+#include "analysis/InputLevel.h"
 #include "analysis/PowerSpectrum.h"
 #include "analysis/Spectrogram.h"
 #include "audio/ChunkedPlayback.h"
@@ -228,6 +229,7 @@ public:
     void OnPauseRecord();
     // Bytes received since the take began (while recording), or the play's position.
     std::int64_t bytePosition() const { return m_play.bytePosition; }
+    const InputLevel& inputLevel() const { return m_inputLevel; }
     // The save dialog of a take made without a client.
     void setTakeSaveChooser(TakeSaveChooser chooser) { m_chooseTakePath = std::move(chooser); }
 
@@ -430,6 +432,7 @@ private:
     int m_pauseColumn = 0;
     std::optional<SpectrogramPicture> m_pausedPicture;
     std::optional<LiveTrace> m_pausedTrace;
+    InputLevel m_inputLevel;           // of the take, for the panels' meters and the save question
     std::int64_t m_silentSamples = 0;  // samples of the take checked for sound, up to a few seconds
     bool m_soundHeard = false;
 

@@ -8,6 +8,7 @@
 
 #include "audio/WavePlayer.h"
 #include "audio/WaveRecorder.h"
+#include "controls/LevelMeter.h"
 #include "controls/UiText.h"
 #include "panels/CMyBarra.h"
 #include "panels/CMyBarra2.h"
@@ -104,6 +105,7 @@ bool CAFView::startTake() {
     RecordPaused = false;
     m_silentSamples = 0;
     m_soundHeard = false;
+    m_inputLevel.reset();
     resetLivePage();
     m_picture.setColumnsDone(0);
     m_liveDotSamples.clear();
@@ -135,6 +137,8 @@ void CAFView::StopRecording() {
     }
     keepOrDropTake();
     showRecordButtons(false);
+    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)})
+        panel->InputMeter()->clear();
     emit busyText(QString());
     showTake();
 }
@@ -179,6 +183,7 @@ void CAFView::keepOrDropTake() {
         return;
     }
     std::string question = m_prompt.inLanguage(kSaveActualFile);
+    if (m_inputLevel.clipped()) question += "\n\n" + m_prompt.inLanguage(kTakeClipped);
     if (!m_prompt.askYesNo(question)) {
         std::filesystem::remove(path, ignored);
         path.clear();
@@ -247,8 +252,13 @@ void CAFView::waveInFailed(int code) {
             Qt::QueuedConnection);
 }
 
-// One captured buffer on the live page: the newest column or spectrum, the strip, and the elapsed time.
-void CAFView::liveDisplay(std::span<const std::int16_t> block) { DrawLiveBlock(block); }
+// One captured buffer on the live page: the newest column or spectrum, the strip, the elapsed time, and the level
+// on the panel's meter.
+void CAFView::liveDisplay(std::span<const std::int16_t> block) {
+    DrawLiveBlock(block);
+    m_inputLevel.addBlock(block);
+    if (ClassAux* panel = ActivePanel()) panel->InputMeter()->setLevel(m_inputLevel);
+}
 
 // The first seconds of a take tell whether the input hears anything; silence all through says so on the frame.
 void CAFView::watchForSilence(std::span<const std::int16_t> block) {

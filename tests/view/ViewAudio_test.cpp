@@ -92,13 +92,16 @@ void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
     a.capture(counting(5 * kBufferSamples, 5000));
     a.click(a.panel().PauseRecordButton());
     QVERIFY(!a.view.loadedRecording().hasSamples());
-    const std::vector<std::int16_t> second = counting(10 * kBufferSamples, 10000);
+    std::vector<std::int16_t> second = counting(10 * kBufferSamples, 10000);
+    second[7] = 32767;  // one sample at full scale: the take clipped
     a.capture(second);
+    QCOMPARE(a.view.inputLevel().zone(), LevelZone::Normal);  // the last block did not clip
+    QVERIFY(a.view.inputLevel().clipped());
 
     a.prompt.answers = {true};
     a.click(a.panel().RecordButton());
     QVERIFY(!a.view.Recording);
-    QCOMPARE(a.prompt.last(), std::string("Do you Want to save the actual File?"));
+    QCOMPARE(a.prompt.last(), std::string("Do you Want to save the actual File?\n\n") + std::string(kTakeClipped));
     QVERIFY(a.input.calls.back() == "close");
     LoadedRecording kept;
     QCOMPARE(kept.LoadSamples(a.take(1)), 1);
