@@ -12,12 +12,16 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QTest>
 #include <QToolButton>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
+#include <map>
+#include <sstream>
 #include <string>
 
 #include "FakePrompt.h"
@@ -37,6 +41,27 @@ double processSeconds() {
     getrusage(RUSAGE_SELF, &usage);
     return static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
            static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) * 1e-6;
+}
+
+// Processor ticks of each thread of this process, by thread id, with the thread's name.
+std::map<std::string, std::pair<std::string, long>> threadTicks() {
+    std::map<std::string, std::pair<std::string, long>> ticks;
+    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream stat(task.path() / "stat");
+        std::string line;
+        std::getline(stat, line);
+        const auto open = line.find('('), close = line.rfind(')');
+        if (open == std::string::npos || close == std::string::npos) continue;
+        std::istringstream rest(line.substr(close + 2));
+        std::string field;
+        long utime = 0, stime = 0;
+        for (int i = 3; i <= 15 && rest >> field; ++i) {
+            if (i == 14) utime = std::stol(field);
+            if (i == 15) stime = std::stol(field);
+        }
+        ticks[task.path().filename().string()] = {line.substr(open + 1, close - open - 1), utime + stime};
+    }
+    return ticks;
 }
 
 // A child process that spins on one core until it is killed.
@@ -103,14 +128,16 @@ int main(int argc, char** argv) {
     view.ShowSpectrogramPage();
     view.SetRecordFormat(formatIndexFor(devices->rate));
     CMyBarra& panel = *view.spectrogramPanel();
-    panel.f0Box()->setChecked(true);
+    panel.f0Box()->setChecked(qgetenv("NOF0").isEmpty());
 
     QTest::mouseClick(panel.RecordButton(), Qt::LeftButton);
     const auto began = std::chrono::steady_clock::now();
     const double cpuBefore = processSeconds();
+    const auto ticksBefore = threadTicks();
     while (view.Recording && view.bytePosition() < wanted * 2) runEventLoop(5);
     const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
     const double cpu = processSeconds() - cpuBefore;
+    const auto ticksAfter = threadTicks();
 
     prompt.answers = {true};
     const auto stopAt = std::chrono::steady_clock::now();
@@ -125,10 +152,18 @@ int main(int argc, char** argv) {
     std::size_t breaks = 0;
     for (std::size_t i = 1; i < take.samples.size(); ++i)
         breaks += take.samples[i] != counting(static_cast<std::size_t>(take.samples[0]) + i - 1);
-    std::printf("%d Hz, %d s take%s, F0 read-out on, spectrogram page at 1024 x 768\n", devices->rate, seconds,
+    std::printf("%d Hz, %d s take in buffers of %d bytes%s, F0 read-out on, spectrogram page at 1024 x 768\n",
+                devices->rate, seconds,
+                UpdateRateBytes(devices->rate, LeadingNumber(panel.UpdateRateBox()->currentText())) & ~1,
                 busy ? ", one core kept busy" : "");
     std::printf("  processor time while capturing: %.2f%% of one core (%.2f s over %.1f s)\n", 100.0 * cpu / wall, cpu,
                 wall);
+    const double tick = static_cast<double>(sysconf(_SC_CLK_TCK));
+    for (const auto& [id, named] : ticksAfter) {
+        const auto before = ticksBefore.find(id);
+        const long spent = named.second - (before != ticksBefore.end() ? before->second.second : 0);
+        if (spent > 0) std::printf("    thread %s: %.2f%%\n", named.first.c_str(), 100.0 * spent / tick / wall);
+    }
     std::printf("  take: %zu samples, %zu breaks in the count (lost or repeated sound)\n", take.samples.size(), breaks);
     std::printf("  Stop to the file page drawn: %.1f ms (%s)\n", stopToPage,
                 view.displayMode() == DisplayMode::FileSpectrogramMode ? "file page" : "NOT on the file page");

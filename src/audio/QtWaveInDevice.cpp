@@ -14,7 +14,7 @@ namespace {
 
 // Qt's own delivery of captured bytes comes in bursts of a fifth of a second; asking every few milliseconds hands
 // each buffer back soon after its last sample was captured.
-constexpr int kPollMilliseconds = 5;
+constexpr int kPollMilliseconds = 10;
 // The sound system hands captured bytes over in fragments of about this length.
 constexpr int kFragmentsPerSecond = 100;
 

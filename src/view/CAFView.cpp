@@ -346,6 +346,8 @@ void CAFView::ShowSpectrumPage() {
 void CAFView::resetLivePage() {
     m_liveTrace.clear();
     m_liveColumn = 0;
+    m_liveDirtyFrom = 0;
+    m_blocksSincePaint = 0;
     m_liveF0Blocks = 0;
     m_f0Readout = 0.0f;
     m_picture.resize(pictureDeviceRect().size());
@@ -486,6 +488,7 @@ void CAFView::rebuildPage(bool dropSelection) {
     const qreal ratio = devicePixelRatioF();
     const QSize device(std::max(1, static_cast<int>(std::lround(width() * ratio))),
                        std::max(1, static_cast<int>(std::lround(height() * ratio))));
+    m_backStale = false;
     m_backBitmap = QImage(device, QImage::Format_RGB32);
     m_backBitmap.fill(Qt::white);
     {

@@ -294,6 +294,7 @@ private:
     void drawCurves(QPainter& painter);
     void drawLiveDots(QPainter& painter, QRect graph, std::int64_t total, int scheme, std::size_t from = 0);
     void drawReadout(QPainter& painter) const;
+    QRect readoutRect() const;
     void liveBlock(std::span<const std::int16_t> block, std::int64_t dotSample);
     void paintLiveParts(int firstColumn, int lastColumn);
     int pageColumn(int deviceColumn) const;
@@ -397,6 +398,8 @@ private:
     bool m_computing = false;
     LiveTrace m_liveTrace;
     int m_liveColumn = 0;          // the next column of the live spectrogram
+    int m_liveDirtyFrom = 0;       // the first column computed but not yet painted
+    int m_blocksSincePaint = 0;    // live blocks computed since the last paint
     DeferredPrompt m_curvePrompt;  // the formant tracker's messages, from its worker thread
     FormantTracker m_formantObject{m_curvePrompt};
     F0Track m_f0Track;
@@ -407,6 +410,7 @@ private:
     int m_liveF0Blocks = 0;    // live blocks since the last estimate
 
     QImage m_backBitmap;
+    bool m_backStale = false;  // live painting went to the finished picture alone
     QImage m_savedGraph;
     QRect m_readOutBox;
     QStringList m_readOutLines;

@@ -116,6 +116,10 @@ QPoint f0ReadoutPoint(const ViewLayout& layout) { return QPoint(layout.graphRigh
 
 // The page as rebuilt, with the overlays of the spectrogram page over it: the read-out, and the shown curves.
 void CAFView::drawOverlays() {
+    if (m_backStale) {
+        rebuildPage(false);  // which draws the overlays over the page drawn anew
+        return;
+    }
     m_savedGraph = m_backBitmap;
     if (!isSpectrogramPage(m_displayMode) || m_computing || (!f0Shown() && !formantsShown())) return;
     QPainter painter(&m_savedGraph);
@@ -123,6 +127,8 @@ void CAFView::drawOverlays() {
     drawReadout(painter);
     drawCurves(painter);
 }
+
+QRect CAFView::readoutRect() const { return F0ReadoutBox(f0ReadoutPoint(m_layout)); }
 
 void CAFView::drawReadout(QPainter& painter) const {
     if (f0Shown() && m_f0Readout > 0.0f) {

@@ -2,6 +2,8 @@
 // the strip and the elapsed time. A block changes only those parts, so only they are painted into the page's two
 // pictures and sent to the screen: the live page must cost little while the sound runs.
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include <QPainter>
 
@@ -9,6 +11,12 @@
 #include "view/CAFView.h"
 #include "view/DisplayModeRules.h"
 #include "view/GraphCaptions.h"
+
+namespace {
+
+constexpr double kLivePaintsPerSecond = 12.0;
+
+}  // namespace
 
 void CAFView::DrawLiveBlock(std::span<const std::int16_t> block) { liveBlock(block, -1); }
 
@@ -47,11 +55,20 @@ void CAFView::liveBlock(std::span<const std::int16_t> block, std::int64_t dotSam
         m_spectrumObject.setValid(true);
         m_liveTrace.addBlock(block.first(block.size() / 2));
     }
-    paintLiveParts(std::min(firstColumn, m_liveColumn), m_liveColumn + 1);
+    // Small blocks come faster than the eye follows: they are painted together, a few dozen times a second.
+    m_liveDirtyFrom = std::min({m_liveDirtyFrom, firstColumn, m_liveColumn});
+    const int perPaint =
+        std::max(1, static_cast<int>(std::ceil(static_cast<double>(rate()) / static_cast<double>(block.size()) /
+                                               kLivePaintsPerSecond)));
+    if (++m_blocksSincePaint < perPaint) return;
+    paintLiveParts(m_liveDirtyFrom, m_liveColumn + 1);
+    m_blocksSincePaint = 0;
+    m_liveDirtyFrom = std::numeric_limits<int>::max();
 }
 
 // Columns [firstColumn, lastColumn) of the picture, in device pixels, with the strip, the band of text rows and
-// (on the power-spectrum page) the whole graph, into both pictures of the page; then those parts to the screen.
+// (on the power-spectrum page) the whole graph, into the finished picture of the page; then those parts to the
+// screen.
 void CAFView::paintLiveParts(int firstColumn, int lastColumn) {
     const qreal ratio = devicePixelRatioF();
     if (m_backBitmap.isNull() || m_backBitmap.size() != m_savedGraph.size() || m_backBitmap.size() != size() * ratio) {
@@ -65,8 +82,11 @@ void CAFView::paintLiveParts(int firstColumn, int lastColumn) {
     const QRect columns(target.left() + firstColumn, target.top(), std::max(width, 0), target.height());
     const bool spectrogram = isSpectrogramPage(m_displayMode);
     const QColor trace = TraceColour(m_displayMode, m_prompt);
-    for (QImage* image : {&m_backBitmap, &m_savedGraph}) {
-        QPainter painter(image);
+    // Only the finished picture is kept up to date while sound runs; the page under the overlays is drawn anew when
+    // an overlay next changes.
+    m_backStale = true;
+    {
+        QPainter painter(&m_savedGraph);
         if (spectrogram && !columns.isEmpty()) {
             painter.save();
             painter.scale(1.0 / ratio, 1.0 / ratio);
@@ -83,21 +103,18 @@ void CAFView::paintLiveParts(int firstColumn, int lastColumn) {
         }
         DrawStrip(painter, m_layout, m_liveTrace.trace(m_layout), trace);
         drawTextRows(painter);
-    }
-    // The overlays live on the second picture only: the read-out in the band, and the dots of the new columns.
-    if (spectrogram && (f0Shown() || formantsShown())) {
-        QPainter painter(&m_savedGraph);
-        painter.setTransform(toWidget);
-        drawReadout(painter);
-        if (livePass() && !m_liveDotSamples.empty()) {
+        // The overlays of the parts drawn: the read-out in the band, and the dots of the new columns.
+        if (spectrogram && (f0Shown() || formantsShown())) drawReadout(painter);
+        if (spectrogram && livePass() && !m_liveDotSamples.empty()) {
             const std::size_t from = static_cast<std::size_t>(std::max(0, firstColumn));
             drawLiveDots(painter, m_layout.pictureRect(), static_cast<std::int64_t>(m_recording.SampleCount()),
                          m_spectrogramSettings.colourScheme, std::min(from, m_liveDotSamples.size()));
         }
     }
-    // The band of text rows runs across the whole window, from its top.
-    const QRect band = widgetRect(QRect(0, 0, 1, CaptionBandBottom(m_layout)));
-    QRegion dirty = QRect(0, 0, this->width(), band.bottom() + 2);
+    // Of the band of text rows only the time and the read-out change: the panel standing over the rest of the band
+    // is left alone.
+    QRegion dirty = widgetRect(TimeCaptionRect(m_layout));
+    dirty += widgetRect(readoutRect());
     dirty += widgetRect(m_layout.stripRect());
     dirty += spectrogram ? QRectF(columns.left() / ratio, columns.top() / ratio, columns.width() / ratio + 1,
                                   columns.height() / ratio + 1)

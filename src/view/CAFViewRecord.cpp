@@ -257,7 +257,10 @@ void CAFView::waveInFailed(int code) {
 void CAFView::liveDisplay(std::span<const std::int16_t> block) {
     DrawLiveBlock(block);
     m_inputLevel.addBlock(block);
-    if (ClassAux* panel = ActivePanel()) panel->InputMeter()->setLevel(m_inputLevel);
+    // The meter is painted with the page: a clip between two paints stays marked on it for the whole take.
+    ClassAux* panel = ActivePanel();
+    if (panel != nullptr && (m_blocksSincePaint == 0 || m_inputLevel.blockClipped()))
+        panel->InputMeter()->setLevel(m_inputLevel);
 }
 
 // The first seconds of a take tell whether the input hears anything; silence all through says so on the frame.

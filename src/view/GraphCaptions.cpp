@@ -74,6 +74,10 @@ void DrawGraphFrame(QPainter& painter, const ViewLayout& layout) {
 // are as high as the lines of their fonts, so that no descender is cut.
 int CaptionTop(const ViewLayout& layout) { return layout.TitleTop + (layout.LargeLayout ? 20 : 5); }
 
+QRect TimeCaptionRect(const ViewLayout& layout) {
+    return QRect(layout.graphRight() - 520, CaptionTop(layout), 520, kCaptionHeight);
+}
+
 void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mode, const QString& duration) {
     // The band runs across the whole window, also where the page, kept in shape, leaves room at its sides.
     const QRectF window = painter.worldTransform().inverted().mapRect(QRectF(painter.viewport()));
@@ -87,9 +91,7 @@ void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mod
     const bool spectrogram = mode == DisplayMode::LiveSpectrogramMode || mode == DisplayMode::FileSpectrogramMode;
     painter.drawText(QRect(layout.GraphLeft - 80, top, 440, kCaptionHeight), Qt::AlignLeft | Qt::AlignVCenter,
                      text(spectrogram ? kSpectrogramCaption : kPowerSpectrumCaption));
-    const int timeLeft = layout.graphRight() - 520;
-    painter.drawText(QRect(timeLeft, top, 520, kCaptionHeight), Qt::AlignRight | Qt::AlignVCenter,
-                     text(kTimeCaption) + duration);
+    painter.drawText(TimeCaptionRect(layout), Qt::AlignRight | Qt::AlignVCenter, text(kTimeCaption) + duration);
     painter.restore();
 }
 

@@ -61,6 +61,8 @@ void DrawGraphFrame(QPainter& painter, const ViewLayout& layout);
 int CaptionTop(const ViewLayout& layout);
 // The bottom of the band of text rows above the graph (caption, format and file lines), in page pixels.
 int CaptionBandBottom(const ViewLayout& layout);
+// Where "Time: " and the duration stand, right-aligned, in the caption row.
+QRect TimeCaptionRect(const ViewLayout& layout);
 void DrawCaptionRow(QPainter& painter, const ViewLayout& layout, DisplayMode mode, const QString& duration);
 // The format line under the caption, 176 pixels across from the left of the layout (moved with its offset).
 void DrawFormatLine(QPainter& painter, const ViewLayout& layout, const QString& text);

@@ -277,7 +277,7 @@ void CAFViewTest::liveBlocksGrowTheSpectrogramTheSpectrumAndTheStrip() {
     QVERIFY(picture.scanLine(row)[15] < 30 && picture.scanLine(row - 40)[15] > 70);
     QCOMPARE(int(picture.scanLine(row)[25]), kBackgroundEntry);  // not painted yet
     const QRect area = m_view->pictureDeviceRect();
-    QCOMPARE(m_view->backBitmap().pixel(area.left() + 15, area.top() + row),
+    QCOMPARE(m_view->savedGraph().pixel(area.left() + 15, area.top() + row),
              picture.convertToFormat(QImage::Format_RGB32).pixel(15, row));
 
     m_view->ShowSpectrumPage();
