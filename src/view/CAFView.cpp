@@ -476,7 +476,7 @@ SpectrumArea CAFView::pictureArea() const {
 
 QString CAFView::durationText() const {
     // While sound runs live, the time of the newest block.
-    const bool live = (Recording && !RecordPaused) || livePass();
+    const bool live = (Recording && !RecordPaused) || livePass() || (Playing && m_zoomed && !m_play.oneShot);
     const std::int64_t count =
         live ? m_play.bytePosition / 2 - m_firstShown : (m_recording.hasSamples() ? m_lastShown - m_firstShown : 0);
     return QString::fromStdString(DurationText(count, rate()));

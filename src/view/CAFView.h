@@ -297,6 +297,7 @@ private:
     QRect readoutRect() const;
     void liveBlock(std::span<const std::int16_t> block, std::int64_t dotSample);
     void paintLiveParts(int firstColumn, int lastColumn);
+    void paintElapsedTime();
     int pageColumn(int deviceColumn) const;
     void estimateLiveF0();
 

@@ -122,3 +122,14 @@ void CAFView::paintLiveParts(int firstColumn, int lastColumn) {
                          : widgetRect(m_layout.pictureRect());
     update(dirty);
 }
+
+// The elapsed time of a play that draws no live page, written into the finished picture and sent to the screen.
+void CAFView::paintElapsedTime() {
+    if (m_savedGraph.isNull()) return;
+    m_backStale = true;
+    QPainter painter(&m_savedGraph);
+    painter.setTransform(m_layout.toWidget(QSizeF(size())));
+    drawTextRows(painter);
+    if (isSpectrogramPage(m_displayMode) && (f0Shown() || formantsShown())) drawReadout(painter);
+    update(widgetRect(TimeCaptionRect(m_layout)));
+}

@@ -258,12 +258,18 @@ void CAFView::StepCursor() {
                            : static_cast<float>(m_layout.GraphWidth) / static_cast<float>(m_play.chunkCount);
     if (m_play.cursorPosition == 0.0f) m_play.cursorPosition = 1.0f;
     if (m_play.cursorPosition >= static_cast<float>(m_layout.GraphWidth)) return;
+    const float before = m_play.cursorPosition;
     if (m_play.cursorArmed) {
         m_play.cursorPosition = std::min(m_play.cursorPosition + step, static_cast<float>(m_layout.GraphWidth));
     } else {
         m_play.cursorArmed = true;
     }
-    update();
+    // Only the two lines and the time change on the screen.
+    for (const float at : {before, m_play.cursorPosition}) {
+        const int x = m_layout.GraphLeft + static_cast<int>(at);
+        update(widgetRect(QRect(x, m_layout.GraphTop, 1, m_layout.stripBottom() - m_layout.GraphTop)));
+    }
+    paintElapsedTime();
 }
 
 void CAFView::drawCursorLine(QPainter& painter, float position) const {

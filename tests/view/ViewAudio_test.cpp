@@ -1,5 +1,8 @@
 // Recording and playing from the window against scripted sound devices: the panel's buttons drive the engines, every
 // buffer back reaches the live page, and a take ends kept, dropped or cut short as the user and the device decide.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
 #include <QSignalSpy>
 #include <QToolButton>
 
@@ -11,6 +14,7 @@
 #include "controls/UiText.h"
 #include "panels/CMyBarra.h"
 #include "store/DateFile.h"
+#include "store/WaveFile.h"
 
 namespace {
 
@@ -70,6 +74,7 @@ private slots:
     void aDroppedTakeLeavesNothingAndALostDeviceKeepsWhatCameIn();
     void aPlayDrawsLiveStopsOnTheButtonAndPlaysAgain();
     void aZoomedPlayMovesItsCursorOneStepPerChunk();
+    void bothLivePagesAndAPlayCursorForPeopleToLookAt();
 };
 
 void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
@@ -90,6 +95,19 @@ void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
     QVERIFY(std::ranges::equal(a.view.loadedRecording().samples(), first));
     QVERIFY(a.panel().PlayButton()->isEnabled());
     a.capture(counting(5 * kBufferSamples, 5000));
+    // The paused take played whole, paused and stopped: the take goes on from the same column afterwards.
+    a.click(a.panel().PlayButton());
+    QVERIFY(a.view.Playing && !a.panel().PauseRecordButton()->isEnabled());
+    a.output.play(2);
+    pumpDeviceEvents();
+    a.click(a.panel().PausePlayButton());
+    QVERIFY(a.output.calls.back() == "pause" && a.panel().shows(a.panel().PausePlayButton(), PanelIcon::Play));
+    a.click(a.panel().PausePlayButton());
+    QVERIFY(a.output.calls.back() == "restart");
+    a.click(a.panel().PlayButton());
+    QVERIFY(!a.view.Playing && a.panel().PauseRecordButton()->isEnabled());
+    QCOMPARE(a.view.bytePosition(), static_cast<std::int64_t>(first.size() * 2));
+    QCOMPARE(a.view.picture().columnsDone(), 40);
     a.click(a.panel().PauseRecordButton());
     QVERIFY(!a.view.loadedRecording().hasSamples());
     std::vector<std::int16_t> second = counting(10 * kBufferSamples, 10000);
@@ -158,6 +176,22 @@ void ViewAudioTest::aPlayDrawsLiveStopsOnTheButtonAndPlaysAgain() {
         QCOMPARE(a.view.picture().columnsDone(), 12);  // the live pass: two columns per header back
         QVERIFY(std::ranges::equal(std::span(a.output.sounded).first(3000),
                                    std::span(reinterpret_cast<const std::uint8_t*>(voice.data()), 3000)));
+        if (round == 1) {
+            // A new Update Rate: the play goes on from where it was, in chunks of the new size, with nothing lost.
+            const std::size_t before = a.output.sounded.size();
+            QComboBox* rate = a.panel().UpdateRateBox();
+            rate->setCurrentIndex(rate->currentIndex() == 0 ? 1 : 0);
+            a.panel().ApplyUpdateRate();
+            pumpDeviceEvents();
+            QVERIFY(a.view.Playing);
+            // Chunks of the new Update Rate's samples, stretched a little to share out the rest evenly.
+            const std::uint32_t chunk = static_cast<std::uint32_t>(a.recorder.updateRateBytes() / 2) * 2;
+            QVERIFY(a.output.queuedLengths.back() >= chunk && a.output.queuedLengths.back() < chunk + chunk / 10);
+            a.output.play(2);
+            pumpDeviceEvents();
+            QVERIFY(a.output.sounded.size() > before);
+            QCOMPARE(std::memcmp(a.output.sounded.data(), voice.data(), a.output.sounded.size()), 0);
+        }
         a.click(a.panel().PlayButton());
         QVERIFY(!a.view.Playing);
         QCOMPARE(a.output.queued(), std::size_t{0});
@@ -199,6 +233,41 @@ void ViewAudioTest::aZoomedPlayMovesItsCursorOneStepPerChunk() {
     a.view.OnPlay();  // the same command stops it
     QVERIFY(!a.view.Playing);
     QCOMPARE(a.view.playback().cursorPosition, 0.0f);
+}
+
+// Speech recorded on both live pages, and a zoomed play with its cursor, saved as pictures for people to look at.
+void ViewAudioTest::bothLivePagesAndAPlayCursorForPeopleToLookAt() {
+    AudioView a;
+    const WaveLoadResult speech = WaveLoad(demoRecording("pac001/wv001.wav"));
+    QCOMPARE(speech.format.nSamplesPerSec, 22050u);
+    a.view.SetRecordFormat(5);  // 22050 Hz
+    a.panel().f0Box()->setChecked(true);
+    QDir().mkpath("screenshots");
+    a.prompt.defaultAnswer = false;  // the takes are dropped
+    for (const bool spectrum : {false, true}) {
+        if (spectrum) a.view.ShowSpectrumPage();
+        ClassAux& panel = *a.view.ActivePanel();
+        a.click(panel.RecordButton());
+        // Two seconds: the take stops in the middle of the speech.
+        for (std::size_t at = 0; at + 11025 <= std::min<std::size_t>(speech.samples.size(), 44100); at += 11025)
+            a.capture(std::vector<std::int16_t>(speech.samples.begin() + at, speech.samples.begin() + at + 11025));
+        QVERIFY(a.view.Recording);
+        a.view.repaint();
+        const QString name = spectrum ? "live-spectrum" : "live-spectrogram";
+        QVERIFY(a.view.grab().save(QString("screenshots/%1-1024x768.png").arg(name)));
+        a.click(panel.RecordButton());
+    }
+    a.client.write("wv001.wav", waveBytes(speech.samples, 22050));
+    a.view.ShowSpectrogramPage();
+    QCOMPARE(a.view.OpenRecording(0, 1), 1);
+    dragInStrip(a.view, a.view.layout().GraphLeft + 100, a.view.layout().GraphLeft + 400);
+    a.view.Zoom();
+    a.view.OnPlay();
+    a.output.play(static_cast<std::size_t>(a.view.playback().chunkCount / 3));
+    pumpDeviceEvents();
+    a.view.repaint();
+    QVERIFY(a.view.grab().save("screenshots/zoomed-play-cursor-1024x768.png"));
+    a.view.OnPlay();
 }
 
 QTEST_MAIN(ViewAudioTest)
