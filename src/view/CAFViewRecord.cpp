@@ -67,7 +67,7 @@ void CAFView::StartRecording() {
     const DisplayMode before = m_displayMode;
     if (Playing) StopPlaying();
     CloseRecording();
-    m_displayMode = ModeAfterStartRecording(m_displayMode, before);
+    m_displayMode = ModeAfterStartRecording(before, before);  // the mode held before, on its live page
     m_modeBeforeTake = m_displayMode;
 
     std::string title;

@@ -128,6 +128,11 @@ void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
     QCOMPARE(a.view.displayMode(), DisplayMode::FileSpectrogramMode);
     QVERIFY(std::ranges::equal(a.view.loadedRecording().samples(), kept.samples()));
     QVERIFY(a.panel().shows(a.panel().RecordButton(), PanelIcon::Record));
+
+    // From the file page a new take goes to the live page of the same kind, with the next number.
+    a.click(a.panel().RecordButton());
+    QCOMPARE(a.view.displayMode(), DisplayMode::LiveSpectrogramMode);
+    QCOMPARE(a.view.document()->title(), QString("Ana  File - 2"));
 }
 
 void ViewAudioTest::aDroppedTakeLeavesNothingAndALostDeviceKeepsWhatCameIn() {
