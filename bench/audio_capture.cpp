@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "BenchSupport.h"
 #include "FakePrompt.h"
 #include "PulseSupport.h"
 #include "TempDir.h"
@@ -22,13 +23,6 @@
 #include "audio/WaveRecorder.h"
 
 namespace {
-
-double processSeconds() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-           static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) * 1e-6;
-}
 
 double percentile(std::vector<double> values, double p) {
     if (values.empty()) return 0.0;
@@ -77,11 +71,11 @@ Result capture(const TestDevices& devices, int formatIndex, int updateBytes, int
         devices.fifo, devices.rate, [](std::size_t i) { return static_cast<std::int16_t>(i); },
         static_cast<std::size_t>(seconds + 5) * static_cast<std::size_t>(devices.rate));
     feeding = &feeder;
-    const double before = processSeconds();
+    const double before = ProcessSeconds();
     runEventLoop(seconds * 1000);
     recorder.Stop();
     recorder.WaitClosed();
-    const double spent = processSeconds() - before;
+    const double spent = ProcessSeconds() - before;
     feeder.stop();
     result.cpuPercent = 100.0 * (spent - feeder.cpuSeconds()) / seconds;
     result.takeValues = recorder.capturedBytes() / 2;

@@ -24,6 +24,7 @@
 #include <sstream>
 #include <string>
 
+#include "BenchSupport.h"
 #include "FakePrompt.h"
 #include "PulseSupport.h"
 #include "TempDir.h"
@@ -35,13 +36,6 @@
 #include "view/CAFView.h"
 
 namespace {
-
-double processSeconds() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-           static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) * 1e-6;
-}
 
 // Processor ticks of each thread of this process, by thread id, with the thread's name.
 std::map<std::string, std::pair<std::string, long>> threadTicks() {
@@ -132,11 +126,11 @@ int main(int argc, char** argv) {
 
     QTest::mouseClick(panel.RecordButton(), Qt::LeftButton);
     const auto began = std::chrono::steady_clock::now();
-    const double cpuBefore = processSeconds();
+    const double cpuBefore = ProcessSeconds();
     const auto ticksBefore = threadTicks();
     while (view.Recording && view.bytePosition() < wanted * 2) runEventLoop(5);
     const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
-    const double cpu = processSeconds() - cpuBefore;
+    const double cpu = ProcessSeconds() - cpuBefore;
     const auto ticksAfter = threadTicks();
 
     prompt.answers = {true};

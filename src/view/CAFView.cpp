@@ -251,16 +251,19 @@ int CAFView::OpenRecording(int kind, int number) {
     m_recording.RecordingPath = recordingFilePath(m_client, qv ? "qv" : "wv", number, "wav");
     m_recording.RecordingNumber = number;
     m_recording.OpenedStereoAsMono = false;
+    return loadRecordingPath() ? loadFileSteps(remembered) : 0;
+}
+
+// The samples of RecordingPath, under the wait cursor; a file that cannot be read leaves the view empty after
+// "Error Reading File".
+bool CAFView::loadRecordingPath() {
     WaitCursor wait;
-    if (!m_recording.LoadSamples(m_recording.RecordingPath) || m_recording.SampleCount() == 0) {
-        wait.restore();
-        m_recording.freeSamples();
-        m_prompt.showOk(kErrorReadingFile);
-        showFailedOpening();
-        return 0;
-    }
+    if (m_recording.LoadSamples(m_recording.RecordingPath) && m_recording.SampleCount() > 0) return true;
     wait.restore();
-    return loadFileSteps(remembered);
+    m_recording.freeSamples();
+    m_prompt.showOk(kErrorReadingFile);
+    showFailedOpening();
+    return false;
 }
 
 int CAFView::OpenRecordingFile(const std::filesystem::path& path) {

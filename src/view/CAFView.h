@@ -279,6 +279,7 @@ private:
 
     void createCommands();
     int loadFileSteps(DisplayMode remembered);
+    bool loadRecordingPath();
     void applyRate(int rate);
     void resetLivePage();
     void showFailedOpening();
@@ -359,6 +360,7 @@ private:
     void playWhole();
     void playCapture();
     void playCaptureSelection(int selectionStart);
+    bool playOnce(std::int64_t first, std::int64_t length);
     void StepCursor();
     void drawCursorLine(QPainter& painter, float position) const;
     std::int64_t liveDotSample(std::int64_t bytePosition);

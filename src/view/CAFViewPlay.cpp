@@ -109,26 +109,18 @@ void CAFView::OnPlay() {
     panel->ApplyUpdateRate();
     const auto count = static_cast<std::int64_t>(m_recording.SampleCount());
     if (count < 1) return;
-    const std::int16_t* samples = m_recording.samples().data();
     if (!m_zoomed && m_hasSelection) {
         // Samples per pixel in whole numbers: a selection plays from a whole number of them.
         const std::int64_t perPixel = count / m_layout.GraphWidth;
         const std::int64_t first = std::clamp<std::int64_t>(selectionStart * perPixel, 0, count);
-        const std::int64_t length = std::min<std::int64_t>(std::abs(m_selEndX - m_selStartX) * perPixel, count - first);
-        if (length < 1 || !openPlayer()) return;
-        m_play.oneShot = true;
-        m_play.finished = 0;
-        m_play.submitted = 0;
-        Playing = true;
-        m_player->PlayOnce(bytesOf(samples + first), static_cast<std::uint32_t>(length * 2));
-        showPlayButtons(true);
+        playOnce(first, std::min<std::int64_t>(std::abs(m_selEndX - m_selStartX) * perPixel, count - first));
     } else if (!m_zoomed) {
         playWhole();
     } else if (m_lastShown > m_firstShown) {
         if (!openPlayer()) return;
         m_play.oneShot = false;
         m_liveColumn = 0;
-        m_playBase = samples + m_firstShown;
+        m_playBase = m_recording.samples().data() + m_firstShown;
         m_playCount = m_lastShown - m_firstShown;
         const PlayLayout layout{m_displayMode == DisplayMode::FileSpectrogramMode, true, m_layout.GraphWidth};
         Playing = true;
@@ -139,6 +131,18 @@ void CAFView::OnPlay() {
         showPlayButtons(true);
     }
     UpdateCommands();
+}
+
+// `length` samples from `first` in a single header: no cursor and no live page.
+bool CAFView::playOnce(std::int64_t first, std::int64_t length) {
+    if (length < 1 || !openPlayer()) return false;
+    m_play.oneShot = true;
+    m_play.finished = 0;
+    m_play.submitted = 0;
+    Playing = true;
+    m_player->PlayOnce(bytesOf(m_recording.samples().data() + first), static_cast<std::uint32_t>(length * 2));
+    showPlayButtons(true);
+    return true;
 }
 
 // The whole recording, drawn live as it sounds: a zoom is dropped first, and the picture starts again from its left
@@ -192,14 +196,7 @@ void CAFView::playCaptureSelection(int selectionStart) {
     const auto count = static_cast<std::int64_t>(m_recording.SampleCount());
     const std::int64_t perPixel = count / widthInUse;
     const std::int64_t first = std::clamp<std::int64_t>(selectionStart * perPixel + baseOffset, 0, count);
-    const std::int64_t length = std::min<std::int64_t>(std::abs(m_selEndX - m_selStartX) * perPixel, count - first);
-    if (length < 1 || !openPlayer()) return;
-    m_play.oneShot = true;
-    m_play.finished = 0;
-    m_play.submitted = 0;
-    Playing = true;
-    m_player->PlayOnce(bytesOf(m_recording.samples().data() + first), static_cast<std::uint32_t>(length * 2));
-    showPlayButtons(true);
+    if (!playOnce(first, std::min<std::int64_t>(std::abs(m_selEndX - m_selStartX) * perPixel, count - first))) return;
     for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)})
         panel->PauseRecordButton()->setEnabled(false);
     UpdateCommands();

@@ -16,7 +16,6 @@
 #include "store/Prompt.h"
 #include "view/CAFView.h"
 #include "view/DisplayModeRules.h"
-#include "view/WaitCursor.h"
 
 namespace {
 
@@ -209,16 +208,7 @@ void CAFView::showTake() {
         return;
     }
     const DisplayMode live = m_displayMode;
-    WaitCursor wait;
-    if (!m_recording.LoadSamples(m_recording.RecordingPath) || m_recording.SampleCount() == 0) {
-        wait.restore();
-        m_recording.freeSamples();
-        m_prompt.showOk(kErrorReadingFile);
-        showFailedOpening();
-        return;
-    }
-    wait.restore();
-    loadFileSteps(ModeAfterStopRecording(live));
+    if (loadRecordingPath()) loadFileSteps(ModeAfterStopRecording(live));
 }
 
 // ---------------------------------------------------------------------------------------------------------------
