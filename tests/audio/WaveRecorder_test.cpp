@@ -12,16 +12,8 @@
 #include "TempDir.h"
 #include "audio/BasicWindows.h"
 #include "audio/CrashMarker.h"
-#include "base/ByteOrder.h"
 
 namespace {
-
-// 16-bit values first, first + 1, ...: any value lost, doubled or moved shows.
-std::vector<std::int16_t> counting(std::size_t values, int first) {
-    std::vector<std::int16_t> out(values);
-    for (std::size_t i = 0; i < values; ++i) out[i] = static_cast<std::int16_t>(first + static_cast<int>(i));
-    return out;
-}
 
 class WaveRecorderTest : public ::testing::Test {
 protected:
@@ -38,9 +30,7 @@ protected:
         pumpDeviceEvents();
     }
     void capture(std::size_t values, int first) {
-        std::vector<std::uint8_t> bytes(values * 2);
-        samplesToLE(counting(values, first), bytes.data());
-        device.capture(bytes);
+        device.capture(std::span<const std::int16_t>(counting(values, first)));
         pumpDeviceEvents();
     }
     void stop() {

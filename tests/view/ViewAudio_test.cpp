@@ -10,7 +10,6 @@
 #include "ViewFixtures.h"
 #include "audio/WavePlayer.h"
 #include "audio/WaveRecorder.h"
-#include "base/ByteOrder.h"
 #include "controls/UiText.h"
 #include "panels/CMyBarra.h"
 #include "store/DateFile.h"
@@ -19,13 +18,6 @@
 namespace {
 
 constexpr int kBufferSamples = 229;  // the default Update Rate line at 11025 Hz gives buffers of 458 bytes
-
-// 16-bit values first, first + 1, ...: any value lost, doubled or moved shows.
-std::vector<std::int16_t> counting(std::size_t values, int first) {
-    std::vector<std::int16_t> out(values);
-    for (std::size_t i = 0; i < values; ++i) out[i] = static_cast<std::int16_t>(first + static_cast<int>(i));
-    return out;
-}
 
 // A view of client 1 with its own scripted devices and engines, on the live spectrogram page.
 struct AudioView {
@@ -50,20 +42,13 @@ struct AudioView {
         pumpDeviceEvents();
     }
     void capture(const std::vector<std::int16_t>& samples) {
-        std::vector<std::uint8_t> bytes(samples.size() * 2);
-        samplesToLE(samples, bytes.data());
-        input.capture(bytes);
+        input.capture(std::span<const std::int16_t>(samples));
         pumpDeviceEvents();
     }
     std::filesystem::path take(int number) const {
         return client.folder.path() / QString::asprintf("wv%03d.wav", number).toStdString();
     }
 };
-
-std::vector<std::int16_t> concat(std::vector<std::int16_t> a, const std::vector<std::int16_t>& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
 
 }  // namespace
 
@@ -123,7 +108,9 @@ void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
     QVERIFY(a.input.calls.back() == "close");
     LoadedRecording kept;
     QCOMPARE(kept.LoadSamples(a.take(1)), 1);
-    QVERIFY(std::ranges::equal(kept.samples(), concat(first, second)));
+    std::vector<std::int16_t> both = first;
+    both.insert(both.end(), second.begin(), second.end());
+    QVERIFY(std::ranges::equal(kept.samples(), both));
     QVERIFY(ReadDateFile(recordingFilePath(a.client.folder, "wv", 1, "ddt"), a.prompt) > 0);
     QCOMPARE(a.view.displayMode(), DisplayMode::FileSpectrogramMode);
     QVERIFY(std::ranges::equal(a.view.loadedRecording().samples(), kept.samples()));

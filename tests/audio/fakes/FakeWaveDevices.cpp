@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <cstring>
 
+#include "base/ByteOrder.h"
+
 int FakeWaveInDevice::start() {
     if (const int result = scripted("start")) return result;
     if (!m_open) return MMSYSERR_INVALHANDLE;
@@ -20,6 +22,12 @@ void FakeWaveInDevice::capture(std::span<const std::uint8_t> bytes) {
         bytes = bytes.subspan(take);
         if (header.dwBytesRecorded == header.dwBufferLength) handBackFirst();
     }
+}
+
+void FakeWaveInDevice::capture(std::span<const std::int16_t> samples) {
+    std::vector<std::uint8_t> bytes(samples.size() * 2);
+    samplesToLE(samples, bytes.data());
+    capture(std::span<const std::uint8_t>(bytes));
 }
 
 void FakeWaveOutDevice::play(std::size_t headers) {

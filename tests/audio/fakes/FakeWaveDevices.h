@@ -127,6 +127,7 @@ public:
     // Sound arrives: once started it fills the queued buffers in order and every full buffer is handed back; with no
     // buffer queued it is lost.
     void capture(std::span<const std::uint8_t> bytes);
+    void capture(std::span<const std::int16_t> samples);  // the same, of 16-bit samples in file order
 
 private:
     void stopped() override { m_started = false; }
@@ -150,6 +151,13 @@ inline WaveFormat recordFormat(int index) {
     WaveWriter writer;
     writer.SetRecordFormat(index);
     return writer.format;
+}
+
+// 16-bit values first, first + 1, ...: any value lost, doubled or moved shows.
+inline std::vector<std::int16_t> counting(std::size_t values, int first) {
+    std::vector<std::int16_t> out(values);
+    for (std::size_t i = 0; i < values; ++i) out[i] = static_cast<std::int16_t>(first + static_cast<int>(i));
+    return out;
 }
 
 // Runs the event loop until no device event is waiting any more.
