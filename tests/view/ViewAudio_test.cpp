@@ -149,6 +149,24 @@ void ViewAudioTest::aDroppedTakeLeavesNothingAndALostDeviceKeepsWhatCameIn() {
     LoadedRecording kept;
     QCOMPARE(kept.LoadSamples(a.take(1)), 1);
     QVERIFY(std::ranges::equal(kept.samples(), heard));
+
+    // Without a client the take goes where the save dialog says, with its date file; Cancel leaves nothing.
+    const ClientFolder outside{a.client.root.path(), OutsideClientCode};
+    std::filesystem::create_directories(outside.path());
+    a.view.setCurrentClient(outside, QString());
+    for (const bool chosen : {true, false}) {
+        const std::filesystem::path target = a.client.root / (chosen ? "kept.wav" : "never.wav");
+        a.view.setTakeSaveChooser([&](const std::filesystem::path& folder) {
+            return folder == outside.path() && chosen ? target : std::filesystem::path();
+        });
+        a.click(a.panel().RecordButton());
+        a.capture(heard);
+        a.click(a.panel().RecordButton());
+        QCOMPARE(std::filesystem::exists(target), chosen);
+        QCOMPARE(std::filesystem::exists(std::filesystem::path(target).replace_extension("ddt")), chosen);
+        QVERIFY(std::filesystem::is_empty(outside.path()));
+    }
+    QCOMPARE(a.view.document()->title(), QString());  // the dropped take left no title
 }
 
 void ViewAudioTest::aPlayDrawsLiveStopsOnTheButtonAndPlaysAgain() {
