@@ -17,12 +17,6 @@ std::vector<std::int16_t> sine(double amplitude, int length, int periods) {
     return samples;
 }
 
-std::vector<std::int16_t> square(std::int16_t high, std::int16_t low, int count) {
-    std::vector<std::int16_t> samples;
-    for (int i = 0; i < count; ++i) samples.push_back(i % 2 == 0 ? high : low);
-    return samples;
-}
-
 double db(double amplitude) { return 20.0 * std::log10(amplitude / 32768.0); }
 
 }  // namespace
@@ -39,14 +33,16 @@ TEST(InputLevel, PeakAndRmsOfMadeSignalsAndTheirZone) {
     } rows[] = {
         {"silence", std::vector<std::int16_t>(512, 0), -96.0, -96.0, LevelZone::Normal, false},
         {"one step above silence", std::vector<std::int16_t>(512, 1), -90.31, -90.31, LevelZone::Normal, false},
-        {"full-scale square", square(32767, -32768, 512), 0.0, db(std::sqrt((32767.0 * 32767 + 32768.0 * 32768) / 2)),
-         LevelZone::Clipped, true},
+        {"full-scale square",
+         {32767, -32768, 32767, -32768},
+         0.0,
+         db(std::sqrt((32767.0 * 32767 + 32768.0 * 32768) / 2)),
+         LevelZone::Clipped,
+         true},
         {"half-scale sine, 4 samples a period", sine(16384, 4, 128), db(16384), db(16384 / std::sqrt(2.0)),
          LevelZone::Normal, false},
         {"sine just over -6 dBFS", sine(16500, 100, 10), db(16500), db(16500 / std::sqrt(2.0)),
          LevelZone::NearFullScale, false},
-        {"sine just under -6 dBFS", sine(16300, 100, 10), db(16300), db(16300 / std::sqrt(2.0)), LevelZone::Normal,
-         false},
         {"a single sample at 32767", {0, 0, 32767, 0}, db(32767), db(32767 / 2.0), LevelZone::Clipped, true},
     };
     for (const auto& row : rows) {
