@@ -217,7 +217,7 @@ void CAFView::CloseRecording() {
     m_pictureComputed = false;
     m_spectrumObject.setValid(false);
     m_wholeSpectrum.reset();
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+    for (ClassAux* panel : bothPanels()) {
         panel->Reset();
         panel->EnablePlay(false);
     }

@@ -203,6 +203,8 @@ public:
     ClassAux* ActivePanel() const;
     CMyBarra* spectrogramPanel() const { return m_spectrogramPanel; }
     CMyBarra2* spectrumPanel() const { return m_spectrumPanel; }
+    // Both panels, for what they show alike whichever page is on screen.
+    std::array<ClassAux*, 2> bothPanels() const;
     // The single capture and playback engines, owned by the main window; none in a view on its own.
     void setAudioEngines(WaveRecorder* recorder, WavePlayer* player);
     // The record format chosen with the panel's rate button (an index of the record-format table: 3, 5 or 7 from

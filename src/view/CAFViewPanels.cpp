@@ -20,7 +20,7 @@ constexpr int kPanelGap = 2;  // page pixels between a panel and the read-out ro
 void CAFView::createPanels() {
     m_spectrogramPanel = new CMyBarra(this);
     m_spectrumPanel = new CMyBarra2(this);
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+    for (ClassAux* panel : bothPanels()) {
         panel->hide();
         panel->setAudio(this);
         connect(panel, &ClassAux::updateRateChanged, this, &CAFView::onUpdateRate);
@@ -42,6 +42,8 @@ void CAFView::createPanels() {
     connect(m_spectrumPanel, &CMyBarra2::ltasToggled, this, &CAFView::onLtas);
     connect(m_spectrumPanel, &CMyBarra2::curveColourChanged, this, &CAFView::onCurveColour);
 }
+
+std::array<ClassAux*, 2> CAFView::bothPanels() const { return {m_spectrogramPanel, m_spectrumPanel}; }
 
 ClassAux* CAFView::ActivePanel() const {
     switch (m_displayMode) {
@@ -103,7 +105,7 @@ void CAFView::placePanels() {
     const double centred = m_layout.GraphLeft + m_layout.GraphWidth / 2.0 - widest / 2.0;
     const int left = static_cast<int>(std::max(0.0, std::min(centred, pageWidth - widest)));
     const QTransform toWidget = m_layout.toWidget(QSizeF(size()));
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+    for (ClassAux* panel : bothPanels()) {
         if (panel != active) {
             panel->hide();
             continue;

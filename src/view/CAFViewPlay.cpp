@@ -28,7 +28,7 @@ std::int64_t soundLag(int updateRateBytes) { return updateRateBytes < 367 ? 2 * 
 }  // namespace
 
 void CAFView::showPlayButtons(bool playing) {
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+    for (ClassAux* panel : bothPanels()) {
         panel->ShowPlaying(playing);
         panel->EnablePlay(m_recording.hasSamples());
         panel->RecordButton()->setEnabled(!playing);
@@ -86,7 +86,7 @@ void CAFView::OnPausePlay() {
     } else {
         m_player->Restart();
     }
-    for (ClassAux* each : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)})
+    for (ClassAux* each : bothPanels())
         each->showIcon(each->PausePlayButton(), pause ? PanelIcon::Play : PanelIcon::Pause);
 }
 
@@ -197,8 +197,7 @@ void CAFView::playCaptureSelection(int selectionStart) {
     const std::int64_t perPixel = count / widthInUse;
     const std::int64_t first = std::clamp<std::int64_t>(selectionStart * perPixel + baseOffset, 0, count);
     if (!playOnce(first, std::min<std::int64_t>(std::abs(m_selEndX - m_selStartX) * perPixel, count - first))) return;
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)})
-        panel->PauseRecordButton()->setEnabled(false);
+    for (ClassAux* panel : bothPanels()) panel->PauseRecordButton()->setEnabled(false);
     UpdateCommands();
 }
 
@@ -290,8 +289,7 @@ void CAFView::playEnded() {
     const bool oneShot = std::exchange(m_play.oneShot, false);
     if (capturePaused && m_recording.SampleCount() > 0) {
         showPlayButtons(false);
-        for (ClassAux* each : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)})
-            each->PauseRecordButton()->setEnabled(true);
+        for (ClassAux* each : bothPanels()) each->PauseRecordButton()->setEnabled(true);
         m_play.bytePosition = m_play.savedBytePosition;
         if (std::exchange(m_playingCapture, false)) restorePausedPage();
         m_firstShown = 0;

@@ -47,7 +47,7 @@ void CAFView::OnRecord() {
 }
 
 void CAFView::showRecordButtons(bool recording) {
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+    for (ClassAux* panel : bothPanels()) {
         panel->ShowRecording(recording);
         panel->RecordButton()->setEnabled(true);
         panel->RateButton()->setEnabled(!recording);
@@ -60,8 +60,7 @@ void CAFView::showRecordButtons(bool recording) {
 }
 
 void CAFView::StartRecording() {
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)})
-        panel->RecordButton()->setEnabled(false);
+    for (ClassAux* panel : bothPanels()) panel->RecordButton()->setEnabled(false);
     // Whatever was on screen goes: a play stops, and the recording closes (asking to save its edits).
     const DisplayMode before = m_displayMode;
     if (Playing) StopPlaying();
@@ -82,7 +81,7 @@ void CAFView::StartRecording() {
     m_doc->SetTitle(QString::fromStdString(title));
     if (!startTake()) {
         // A failed start leaves the Record button disabled: the device said why, and a second try would repeat it.
-        for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+        for (ClassAux* panel : bothPanels()) {
             panel->ShowRecording(false);
             panel->RecordButton()->setEnabled(false);
             panel->RateButton()->setEnabled(true);
@@ -136,8 +135,7 @@ void CAFView::StopRecording() {
     }
     keepOrDropTake();
     showRecordButtons(false);
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)})
-        panel->InputMeter()->clear();
+    for (ClassAux* panel : bothPanels()) panel->InputMeter()->clear();
     emit busyText(QString());
     showTake();
 }
@@ -147,8 +145,7 @@ void CAFView::endTake() {
     m_recorder->WaitClosed();
     Recording = false;
     RecordPaused = false;
-    for (ClassAux* panel : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)})
-        panel->EnablePlay(false);
+    for (ClassAux* panel : bothPanels()) panel->EnablePlay(false);
 }
 
 // A client's take is kept or deleted as the user answers; a take made without a client is copied where the user
@@ -290,7 +287,7 @@ void CAFView::pauseCapture() {
     m_formantTrack = FormantTrack{};
     m_f0Track = F0Track{};
     RecordPaused = true;
-    for (ClassAux* each : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+    for (ClassAux* each : bothPanels()) {
         each->showIcon(each->PauseRecordButton(), PanelIcon::Record);
         each->EnablePlay(true);
     }
@@ -324,7 +321,7 @@ void CAFView::resumeCapture() {
         if (m_recorder->QueueBuffer() < 0) break;
     }
     RecordPaused = false;
-    for (ClassAux* each : {static_cast<ClassAux*>(m_spectrogramPanel), static_cast<ClassAux*>(m_spectrumPanel)}) {
+    for (ClassAux* each : bothPanels()) {
         each->showIcon(each->PauseRecordButton(), PanelIcon::Pause);
         each->EnablePlay(false);
     }
