@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QScreen>
 #include <QTimer>
+#include <QToolButton>
 
 #include "controls/UiText.h"
 #include "panels/CMyBarra.h"
@@ -354,6 +355,9 @@ void CAFView::resetLivePage() {
     m_liveF0Blocks = 0;
     m_f0Readout = 0.0f;
     m_picture.resize(pictureDeviceRect().size());
+    if (!Recording && !Playing) {
+        for (ClassAux* panel : bothPanels()) panel->RecordButton()->setEnabled(true);
+    }
     if (!isLiveMode(m_displayMode)) return;
     applyRate(rate());
     m_spectrumObject.resetAverage();

@@ -434,10 +434,9 @@ private:
     WaveRecorder* m_recorder = nullptr;
     WavePlayer* m_player = nullptr;
 
-    // The take in progress: the mode before it, the live picture and strip kept while it is paused (and played), and
+    // The take in progress: the live picture and strip kept while it is paused (and played), and
     // whether its first seconds were silent.
     TakeSaveChooser m_chooseTakePath;
-    DisplayMode m_modeBeforeTake = DisplayMode::LiveSpectrogramMode;
     int m_pauseColumn = 0;
     std::optional<SpectrogramPicture> m_pausedPicture;
     std::optional<LiveTrace> m_pausedTrace;

@@ -66,7 +66,6 @@ void CAFView::StartRecording() {
     if (Playing) StopPlaying();
     CloseRecording();
     m_displayMode = ModeAfterStartRecording(before, before);  // the mode held before, on its live page
-    m_modeBeforeTake = m_displayMode;
 
     std::string title;
     if (!NewRecordingPath(m_recording, title, m_client, m_clientName.toStdString(), m_recordFormat.nSamplesPerSec,
@@ -80,7 +79,8 @@ void CAFView::StartRecording() {
     }
     m_doc->SetTitle(QString::fromStdString(title));
     if (!startTake()) {
-        // A failed start leaves the Record button disabled: the device said why, and a second try would repeat it.
+        // A failed start leaves the Record button disabled, since the device said why and a second try would repeat
+        // it; a page shown anew enables it again, once the clinician has seen to the input.
         for (ClassAux* panel : bothPanels()) {
             panel->ShowRecording(false);
             panel->RecordButton()->setEnabled(false);

@@ -124,6 +124,13 @@ void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
 
 void ViewAudioTest::aDroppedTakeLeavesNothingAndALostDeviceKeepsWhatCameIn() {
     AudioView a;
+    // A device that refuses to open: the Record button stays disabled until a page is shown anew.
+    a.input.failAt("open", 1, MMSYSERR_BADDEVICEID);
+    a.click(a.panel().RecordButton());
+    QVERIFY(!a.view.Recording && !a.panel().RecordButton()->isEnabled());
+    a.view.ShowSpectrumPage();
+    a.view.ShowSpectrogramPage();
+    QVERIFY(a.panel().RecordButton()->isEnabled());
     QSignalSpy said(&a.view, &CAFView::busyText);
     a.click(a.panel().RecordButton());
     // Seconds of nothing but the input's own noise: the input is most likely not the one the voice reaches.
