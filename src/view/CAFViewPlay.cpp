@@ -215,9 +215,9 @@ void CAFView::waveOutDone(WaveHeader& header) {
     if (!m_player->resetting() && header.dwBufferLength > 0 && livePass()) {
         const auto* played = reinterpret_cast<const std::int16_t*>(header.lpData);
         liveBlock({played, header.dwBufferLength / 2}, liveDotSample(m_play.bytePosition));
-    } else if (Playing && m_zoomed && !m_play.oneShot && !m_player->resetting() && !m_play.rateChanging) {
-        StepCursor();
     }
+    // A zoomed play moves its cursor, also over the strip of the power-spectrum page, whose spectrum follows live.
+    if (Playing && m_zoomed && !m_play.oneShot && !m_player->resetting() && !m_play.rateChanging) StepCursor();
     if (m_play.oneShot) {
         m_player->device().unprepareHeader(header);
         if (m_play.finished >= m_play.submitted) m_player->Close();
