@@ -482,10 +482,13 @@ SpectrumArea CAFView::pictureArea() const {
 }
 
 QString CAFView::durationText() const {
-    // While sound runs live, the time of the newest block.
-    const bool live = (Recording && !RecordPaused) || livePass() || (Playing && m_zoomed && !m_play.oneShot);
-    const std::int64_t count =
-        live ? m_play.bytePosition / 2 - m_firstShown : (m_recording.hasSamples() ? m_lastShown - m_firstShown : 0);
+    // While sound runs, the time of the newest block: a zoomed play counts from the start of its range.
+    std::int64_t count = m_recording.hasSamples() ? m_lastShown - m_firstShown : 0;
+    if (Playing && m_zoomed && !m_play.oneShot) {
+        count = m_play.bytePosition / 2;
+    } else if ((Recording && !RecordPaused) || livePass()) {
+        count = m_play.bytePosition / 2 - m_firstShown;
+    }
     return QString::fromStdString(DurationText(count, rate()));
 }
 
