@@ -6,42 +6,38 @@
 
 #include "panels/CurveOverlays.h"
 
-namespace {
-
 const QRgb kGrey = qRgb(128, 128, 128);
 const QRect kGraph(10, 20, 200, 300);  // bottom 320, right 210
 const F0Range kRange{70, 400};
 
 // One F0 frame per column of the graph: `voiced(c)` gives the value of column c.
 template <class Voiced>
-F0Track trackOf(Voiced voiced) {
+static F0Track trackOf(Voiced voiced) {
     F0Track track;
     for (int c = 0; c < kGraph.width(); ++c) track.values.push_back(voiced(c));
     track.valid = true;
     return track;
 }
 
-QImage blank() {
+static QImage blank() {
     QImage image(240, 340, QImage::Format_RGB32);
     image.fill(kGrey);
     return image;
 }
 
-QImage drawnF0(const F0Track& track, int scheme = 0, F0Range range = kRange) {
+static QImage drawnF0(const F0Track& track, int scheme = 0, F0Range range = kRange) {
     QImage image = blank();
     QPainter painter(&image);
     DrawF0(painter, kGraph, track, track.count() * 100, 0, track.count() * 100, range, scheme);
     return image;
 }
 
-int countColour(const QImage& image, QRect area, QRgb colour) {
+static int countColour(const QImage& image, QRect area, QRgb colour) {
     int n = 0;
     for (int y = area.top(); y <= area.bottom(); ++y)
         for (int x = area.left(); x <= area.right(); ++x) n += image.pixel(x, y) == colour;
     return n;
 }
-
-}  // namespace
 
 class CurveOverlaysTest : public QObject {
     Q_OBJECT
