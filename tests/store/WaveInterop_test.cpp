@@ -34,11 +34,11 @@ bool soxSynth(std::uint32_t rate, int channels, int bits, const std::string& to,
                .exitCode == 0;
 }
 
-// The samples as sox decodes them, as 16-bit little-endian values.
+// The samples as sox decodes them, as 16-bit values in the machine's own byte order.
 std::vector<std::int16_t> soxDecode16(const std::filesystem::path& file) {
-    const std::string raw = runCommand("sox " + quoted(file) + " -t raw -e signed -b 16 -L -").output;
+    const std::string raw = runCommand("sox " + quoted(file) + " -t raw -e signed -b 16 -").output;
     std::vector<std::int16_t> samples(raw.size() / 2);
-    std::memcpy(samples.data(), raw.data(), 2 * samples.size());  // the test machines are little-endian
+    std::memcpy(samples.data(), raw.data(), 2 * samples.size());
     return samples;
 }
 
