@@ -14,7 +14,6 @@ inline std::vector<std::int16_t> sineWave(double hz, int rate, int n, double amp
     return s;
 }
 
-// Values drawn evenly from -amplitude to amplitude.
 inline std::vector<std::int16_t> noise(int n, int amplitude, unsigned seed) {
     std::mt19937 random(seed);
     std::uniform_int_distribution<int> sample(-amplitude, amplitude);

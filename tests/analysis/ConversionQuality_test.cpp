@@ -24,19 +24,13 @@ struct Tone {
     double frequency, phase;
 };
 
-double toneSum(const std::vector<Tone>& tones, double seconds) {
-    double value = 0.0;
-    for (const Tone& t : tones)
-        value += kAmplitude * std::sin(2.0 * std::numbers::pi * t.frequency * seconds + t.phase);
-    return value;
-}
-
-// Half a second of the tones at `from`, converted to `to` and read back.
-std::vector<double> convertTones(const Rates& rates, const std::vector<Tone>& tones) {
+// Half a second of the tone at `from`, converted to `to` and read back.
+std::vector<double> convertTone(const Rates& rates, const Tone& tone) {
     std::vector<std::int16_t> input(rates.from / 2);
-    for (std::size_t i = 0; i < input.size(); ++i) {
-        input[i] = static_cast<std::int16_t>(std::lround(toneSum(tones, static_cast<double>(i) / rates.from)));
-    }
+    for (std::size_t i = 0; i < input.size(); ++i)
+        input[i] = static_cast<std::int16_t>(std::lround(
+            kAmplitude *
+            std::sin(2.0 * std::numbers::pi * tone.frequency * (static_cast<double>(i) / rates.from) + tone.phase)));
     TempDir dir;
     FakePrompt prompt;
     EXPECT_EQ(convertSampleRate(input.data(), static_cast<int>(input.size()), rates.from, rates.to, dir / "o.wav", 16,
@@ -48,10 +42,9 @@ std::vector<double> convertTones(const Rates& rates, const std::vector<Tone>& to
 }
 
 // The middle of the output, away from the switching on and off of the tones.
-struct Span {
-    std::size_t first, last;
-};
-Span middle(const std::vector<double>& y) { return {y.size() / 5, y.size() - y.size() / 5}; }
+std::pair<std::size_t, std::size_t> middle(const std::vector<double>& y) {
+    return {y.size() / 5, y.size() - y.size() / 5};
+}
 
 struct Fit {
     double gainDb;      // of the tone's amplitude
@@ -61,32 +54,32 @@ struct Fit {
 
 // Least-squares fit of a sin + b cos at exactly `tone`'s frequency over the middle of `y`.
 Fit fitTone(const std::vector<double>& y, int rate, const Tone& tone) {
-    const Span s = middle(y);
+    const auto [first, last] = middle(y);
     double ss = 0, cc = 0, sc = 0, ys = 0, yc = 0;
     const auto angle = [&](std::size_t i) {
         return 2.0 * std::numbers::pi * tone.frequency * static_cast<double>(i) / rate + tone.phase;
     };
-    for (std::size_t i = s.first; i < s.last; ++i) {
+    for (std::size_t i = first; i < last; ++i) {
         const double sn = std::sin(angle(i)), cs = std::cos(angle(i));
         ss += sn * sn, cc += cs * cs, sc += sn * cs, ys += y[i] * sn, yc += y[i] * cs;
     }
     const double det = ss * cc - sc * sc;
     const double a = (ys * cc - yc * sc) / det, b = (yc * ss - ys * sc) / det;
     double residual = 0;
-    for (std::size_t i = s.first; i < s.last; ++i) {
+    for (std::size_t i = first; i < last; ++i) {
         const double e = y[i] - a * std::sin(angle(i)) - b * std::cos(angle(i));
         residual += e * e;
     }
-    residual = std::sqrt(residual / static_cast<double>(s.last - s.first));
+    residual = std::sqrt(residual / static_cast<double>(last - first));
     return {20.0 * std::log10(std::hypot(a, b) / kAmplitude), std::atan2(b, a),
             20.0 * std::log10(residual / (kAmplitude / std::sqrt(2.0)))};
 }
 
 double rmsDbBelowTone(const std::vector<double>& y) {
-    const Span s = middle(y);
+    const auto [first, last] = middle(y);
     double sum = 0;
-    for (std::size_t i = s.first; i < s.last; ++i) sum += y[i] * y[i];
-    return 20.0 * std::log10(std::sqrt(sum / static_cast<double>(s.last - s.first)) / (kAmplitude / std::sqrt(2.0)));
+    for (std::size_t i = first; i < last; ++i) sum += y[i] * y[i];
+    return 20.0 * std::log10(std::sqrt(sum / static_cast<double>(last - first)) / (kAmplitude / std::sqrt(2.0)));
 }
 
 }  // namespace
@@ -101,7 +94,7 @@ TEST(ConversionQuality, PassbandTonesKeepLevelFrequencyAndPhaseAndLeaveNoImages)
         for (const double place : {0.1, 0.37, 0.64, 0.9, 1.0}) {
             const Tone tone{place * 0.9 * rates.lowerNyquist(), 0.7};
             SCOPED_TRACE(testing::Message() << rates.from << " -> " << rates.to << " at " << tone.frequency << " Hz");
-            const Fit fit = fitTone(convertTones(rates, {tone}), rates.to, tone);
+            const Fit fit = fitTone(convertTone(rates, tone), rates.to, tone);
             EXPECT_LE(std::fabs(fit.gainDb), 0.2);
             EXPECT_LT(std::fabs(fit.phaseError), 2e-3);
             EXPECT_LT(fit.residualDb, -75.0);
@@ -121,6 +114,6 @@ TEST(ConversionQuality, TonesAboveTheOutputNyquistFrequencyComeOut75DbDown) {
                  {{44100, 22050}, 21000}};
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.rates.from << " -> " << c.rates.to << " at " << c.frequency << " Hz");
-        EXPECT_LT(rmsDbBelowTone(convertTones(c.rates, {{c.frequency, 0.0}})), -75.0);
+        EXPECT_LT(rmsDbBelowTone(convertTone(c.rates, {c.frequency, 0.0})), -75.0);
     }
 }

@@ -2,24 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <complex>
 #include <numbers>
 #include <random>
 #include <vector>
 
-namespace {
-
 // The plain sum that defines the bins, in double precision.
-std::complex<double> dftBin(const std::vector<float>& x, int k) {
+static std::complex<double> dftBin(const std::vector<float>& x, int k) {
     std::complex<double> sum = 0.0;
     const auto n = static_cast<double>(x.size());
     for (std::size_t i = 0; i < x.size(); ++i)
         sum += static_cast<double>(x[i]) * std::polar(1.0, -2.0 * std::numbers::pi * k * static_cast<double>(i) / n);
     return sum;
 }
-
-}  // namespace
 
 TEST(RealFft, BinsMatchThePlainTransformAtEveryLengthUsed) {
     std::mt19937 random(5);
@@ -38,7 +33,6 @@ TEST(RealFft, BinsMatchThePlainTransformAtEveryLengthUsed) {
             EXPECT_NEAR(bins[k].real(), expected.real(), tolerance) << "size " << size << " bin " << k;
             EXPECT_NEAR(bins[k].imag(), expected.imag(), tolerance) << "size " << size << " bin " << k;
         }
-        // DC and Nyquist are real.
         EXPECT_EQ(bins[0].imag(), 0.0f);
         EXPECT_EQ(bins[static_cast<std::size_t>(size / 2)].imag(), 0.0f);
     }

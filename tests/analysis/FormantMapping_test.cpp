@@ -4,17 +4,13 @@
 
 #include <vector>
 
-namespace {
-
-PoleFrame frameWith(std::vector<float> freqs, float rms = 100.0f) {
+static PoleFrame frameWith(std::vector<float> freqs, float rms = 100.0f) {
     PoleFrame frame;
     frame.rms = rms;
     frame.nPoles = static_cast<int>(freqs.size());
     for (std::size_t p = 0; p < freqs.size(); ++p) frame.poles[p] = Pole{freqs[p], 40.0f, 60.0f};
     return frame;
 }
-
-}  // namespace
 
 TEST(BuildCandidates, TheEnumerationStopsAtTheTableSize) {
     const std::vector<float> freqs{1000, 1100, 1200, 1300, 1400, 2000, 2100, 2200, 2300, 2400};

@@ -13,11 +13,9 @@
 #include "FakePrompt.h"
 #include "analysis/FormantSignal.h"
 
-namespace {
-
 // A pulse train at f0 through four second-order resonators in cascade, each with unit gain at DC, scaled to a
 // peak of 12000.
-std::vector<std::int16_t> vowel(int rate, double f0, const double (&formants)[4], double seconds) {
+static std::vector<std::int16_t> vowel(int rate, double f0, const double (&formants)[4], double seconds) {
     const double bandwidths[4] = {60.0, 80.0, 120.0, 150.0};
     const int n = static_cast<int>(rate * seconds);
     std::vector<double> x(static_cast<std::size_t>(n), 0.0);
@@ -42,7 +40,7 @@ std::vector<std::int16_t> vowel(int rate, double f0, const double (&formants)[4]
 }
 
 // Median of formant `k` (0 for F1) over the steady part: the records after the first and before the last 0.1 s.
-float steadyMedian(const FormantTrack& track, int k) {
+static float steadyMedian(const FormantTrack& track, int k) {
     std::vector<float> values;
     for (int i = 10; i < track.count() - 10; ++i) {
         const FormantRecord& r = track.records[i];
@@ -52,16 +50,11 @@ float steadyMedian(const FormantTrack& track, int k) {
     return values[values.size() / 2];
 }
 
-std::vector<std::int16_t> fullScaleNoise(int n, unsigned seed) { return noise(n, 32767, seed); }
-
-// The four formants of every record, to compare whole tracks.
-std::vector<std::array<float, 4>> formantsOf(const FormantTrack& track) {
+static std::vector<std::array<float, 4>> formantsOf(const FormantTrack& track) {
     std::vector<std::array<float, 4>> values;
     for (const FormantRecord& r : track.records) values.push_back({r.f1, r.f2, r.f3, r.f4});
     return values;
 }
-
-}  // namespace
 
 TEST(FormantTracker, SyntheticVowelsAt120HzGiveTheirFormantsWithin5Percent) {
     // Of the close front vowel only F1 is checked: the order-12 fit of this vowel puts a broad pole (about
@@ -89,7 +82,6 @@ TEST(FormantTracker, SilenceGivesTheNominalFormantsInEveryFrame) {
     FormantTrack track;
     tracker.computeFormants(track, std::vector<std::int16_t>(11025, 0), 11025);
     ASSERT_TRUE(track.valid);
-    ASSERT_EQ(track.count(), 96);
     EXPECT_EQ(formantsOf(track), (std::vector<std::array<float, 4>>(96, {500.0f, 1500.0f, 2500.0f, 3500.0f})));
     for (int i = 0; i < track.count(); ++i) {
         EXPECT_EQ(track.records[i].start, 100 * i);
@@ -103,15 +95,15 @@ TEST(FormantTracker, FrameCountAtTheEdgeOfOneWindow) {
     FormantTracker tracker(prompt);
     FormantTrack track;
     // 48 ms at 22050 Hz is 480 samples at 10 kHz: no frame, yet a valid, empty track.
-    tracker.computeFormants(track, fullScaleNoise(1058, 1), 22050);
+    tracker.computeFormants(track, noise(1058, 32767, 1), 22050);
     EXPECT_TRUE(track.valid);
     EXPECT_EQ(track.count(), 0);
     // Exactly one window at 10 kHz: one frame, whose pre-emphasis reads one sample past the end.
-    tracker.computeFormants(track, fullScaleNoise(490, 2), 10000);
+    tracker.computeFormants(track, noise(490, 32767, 2), 10000);
     EXPECT_EQ(track.count(), 1);
-    tracker.computeFormants(track, fullScaleNoise(589, 2), 10000);
+    tracker.computeFormants(track, noise(589, 32767, 2), 10000);
     EXPECT_EQ(track.count(), 1);
-    tracker.computeFormants(track, fullScaleNoise(590, 2), 10000);
+    tracker.computeFormants(track, noise(590, 32767, 2), 10000);
     EXPECT_EQ(track.count(), 2);
     // At 10 kHz and below the samples are used as they are, and read as 10 kHz.
     tracker.computeFormants(track, std::vector<std::int16_t>(8000, 0), 8000);
@@ -122,9 +114,9 @@ TEST(FormantTracker, ThreadsDoNotChangeTheResultAndRunsGoOnFromThePreviousRoots)
     // Noise with a vowel makes frames whose root search needs restarts; those are drawn in frame order.
     const double truth[4] = {730.0, 1090.0, 2440.0, 3400.0};
     std::vector<std::int16_t> signal = vowel(22050, 180.0, truth, 3.0);
-    const auto noise = fullScaleNoise(static_cast<int>(signal.size()), 4);
+    const auto hiss = noise(static_cast<int>(signal.size()), 32767, 4);
     for (std::size_t i = 0; i < signal.size(); ++i)
-        signal[i] = static_cast<std::int16_t>(signal[i] / 2 + (i > signal.size() / 2 ? noise[i] / 3 : 0));
+        signal[i] = static_cast<std::int16_t>(signal[i] / 2 + (i > signal.size() / 2 ? hiss[i] / 3 : 0));
 
     auto run = [&](int threads, int runs) {
         FakePrompt prompt;
@@ -155,8 +147,7 @@ TEST(FormantTracker, TwoTrackersRunAtOnce) {
     FormantTracker reference(prompt);
     FormantTrack expected;
     reference.computeFormants(expected, signal, 11025);
-    FormantTrack a;
-    FormantTrack b;
+    FormantTrack a, b;
     {
         FormantTracker first(prompt);
         FormantTracker second(prompt);

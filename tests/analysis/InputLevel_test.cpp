@@ -3,23 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <numbers>
 #include <vector>
 
-namespace {
+#include "AnalysisTestSupport.h"
 
-// `periods` of a sine of `amplitude`, `length` samples a period, rounded to the nearest sample value.
-std::vector<std::int16_t> sine(double amplitude, int length, int periods) {
-    std::vector<std::int16_t> samples;
-    for (int i = 0; i < length * periods; ++i)
-        samples.push_back(
-            static_cast<std::int16_t>(std::lround(amplitude * std::sin(2 * std::numbers::pi * i / length))));
-    return samples;
-}
-
-double db(double amplitude) { return 20.0 * std::log10(amplitude / 32768.0); }
-
-}  // namespace
+static double db(double amplitude) { return 20.0 * std::log10(amplitude / 32768.0); }
 
 // Peak and RMS in dB below 32768. A sine of amplitude A has an RMS of A / sqrt(2): 3.01 dB under its peak; at four
 // samples a period its samples are 0, A, 0, -A exactly. A square wave's RMS is its amplitude.
@@ -39,9 +27,9 @@ TEST(InputLevel, PeakAndRmsOfMadeSignalsAndTheirZone) {
          db(std::sqrt((32767.0 * 32767 + 32768.0 * 32768) / 2)),
          LevelZone::Clipped,
          true},
-        {"half-scale sine, 4 samples a period", sine(16384, 4, 128), db(16384), db(16384 / std::sqrt(2.0)),
+        {"half-scale sine, 4 samples a period", sineWave(1, 4, 4 * 128, 16384), db(16384), db(16384 / std::sqrt(2.0)),
          LevelZone::Normal, false},
-        {"sine just over -6 dBFS", sine(16500, 100, 10), db(16500), db(16500 / std::sqrt(2.0)),
+        {"sine just over -6 dBFS", sineWave(1, 100, 100 * 10, 16500), db(16500), db(16500 / std::sqrt(2.0)),
          LevelZone::NearFullScale, false},
         {"a single sample at 32767", {0, 0, 32767, 0}, db(32767), db(32767 / 2.0), LevelZone::Clipped, true},
     };
@@ -60,7 +48,7 @@ TEST(InputLevel, ClippingStaysWithTheTakeAndTheHoldFallsBackUntilReset) {
     InputLevel level;
     level.addBlock(std::vector<std::int16_t>{-32768, 0});
     EXPECT_DOUBLE_EQ(level.peakDb(), 0.0);  // -32768 is full scale exactly
-    level.addBlock(sine(16384, 4, 16));
+    level.addBlock(sineWave(1, 4, 4 * 16, 16384));
     EXPECT_EQ(level.zone(), LevelZone::Normal);  // the meter follows the block...
     EXPECT_TRUE(level.clipped());                // ...the take keeps its clipping
     EXPECT_DOUBLE_EQ(level.holdDb(), -InputLevel::kHoldFallDb);

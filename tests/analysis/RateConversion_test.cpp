@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
-#include <numeric>
 
 #include "FakePrompt.h"
 #include "TempDir.h"
@@ -33,13 +31,10 @@ Converted convert(const std::vector<std::int16_t>& input, int from, int to, Fake
                                  progress);
     c.written = std::filesystem::exists(dir / "out.wav");
     // A file of no values is its 46-byte header alone.
-    if (c.written && std::filesystem::file_size(dir / "out.wav") == 46) return c;
-    if (c.written) {
+    if (c.written && std::filesystem::file_size(dir / "out.wav") != 46) {
         const WaveLoadResult loaded = WaveLoad(dir / "out.wav");
         EXPECT_EQ(loaded.code, kWaveOk);
-        EXPECT_EQ(loaded.format.nSamplesPerSec, static_cast<std::uint32_t>(to));
-        EXPECT_EQ(loaded.format.nChannels, 1);
-        EXPECT_EQ(loaded.format.wBitsPerSample, 16);
+        EXPECT_EQ(loaded.format, (WaveFormat{1, 1, std::uint32_t(to), 2 * std::uint32_t(to), 2, 16, 0, {}}));
         c.samples = loaded.samples;
     }
     return c;

@@ -11,7 +11,6 @@
 
 namespace {
 
-// Keeps every column handed over, and which were blanked.
 class RecordingPainter : public ColumnPainter {
 public:
     std::vector<std::vector<std::uint8_t>> columns;
@@ -31,31 +30,29 @@ public:
 }  // namespace
 
 TEST(SpectrogramWindow, LengthFollowsTheBandAndStopsAtTheFftLength) {
-    struct Row {
+    const struct {
         int band, rate, fft, expected;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {10, 11025, 1024, 1024},  // 1764 asked for, limited
         {40, 11025, 1024, 441},  {80, 11025, 1024, 220},  {150, 11025, 1024, 117},
         {300, 11025, 1024, 58},  {400, 11025, 1024, 44},  // 0.004 s
         {40, 22050, 1024, 882},  {10, 44100, 8192, 7056},
     };
-    for (const Row& r : rows)
+    for (const auto& r : rows)
         EXPECT_EQ(analysisWindowLength(static_cast<float>(r.band), r.rate, r.fft), r.expected)
             << r.band << " Hz at " << r.rate;
 }
 
 TEST(SpectrogramFft, LengthTableByRateHeightAndZoom) {
-    struct Row {
+    const struct {
         int rate, height, zoom, expected;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {11025, 300, 2, 2048}, {11025, 800, 1, 1024}, {11025, 100, 4, 1024}, {22050, 301, 4, 4096},
         {22050, 301, 2, 2048}, {22050, 301, 1, 2048}, {22050, 301, 3, 2048}, {22050, 300, 2, 2048},
         {22050, 300, 4, 4096}, {22050, 300, 1, 1024}, {22050, 300, 3, 1024},  // a ratio of 3 does not raise the length
         {44100, 300, 8, 8192}, {44100, 900, 2, 4096}, {16000, 300, 2, 1024}, {8000, 900, 1, 1024},
     };
-    for (const Row& r : rows)
+    for (const auto& r : rows)
         EXPECT_EQ(spectrogramFftLength(r.rate, r.height, r.zoom), r.expected)
             << r.rate << " Hz, height " << r.height << ", zoom " << r.zoom;
 }
@@ -100,14 +97,10 @@ TEST(Spectrogram, RowsNoBinReachesAreZeroInAPictureAndRepeatTheRowBelowLive) {
     const std::vector<std::uint8_t>& pictureColumn = painter.columns[0];
 
     int empty = 0;
-    for (int r = rows - 1; r >= 0; --r) {
-        if (pictureColumn[r] != 0) {
-            EXPECT_EQ(liveColumn[r], pictureColumn[r]) << "row " << r;
-        } else {
-            ++empty;
-            if (r + 1 < rows) {
-                EXPECT_EQ(liveColumn[r], liveColumn[r + 1]) << "row " << r;
-            }
+    for (int r = 0; r < rows; ++r) {
+        empty += pictureColumn[r] == 0;
+        if (pictureColumn[r] != 0 || r + 1 < rows) {
+            EXPECT_EQ(liveColumn[r], pictureColumn[r] != 0 ? pictureColumn[r] : liveColumn[r + 1]) << "row " << r;
         }
     }
     EXPECT_GT(empty, 400);

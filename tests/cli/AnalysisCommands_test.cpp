@@ -1,8 +1,8 @@
 // The spectral and formant subcommands of sonalys-analyze, run as a user runs them, on files made by real tools.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -12,13 +12,9 @@
 #include "RunCommand.h"
 #include "TempDir.h"
 
-namespace {
+static CommandResult run(const std::string& args) { return runCommand(SONALYS_CLI_PATH " " + args + " 2>/dev/null"); }
 
-CommandResult run(const std::string& arguments) {
-    return runCommand(std::string(SONALYS_CLI_PATH) + " " + arguments + " 2>/dev/null");
-}
-
-std::vector<std::vector<double>> csvRows(const std::string& text, std::string& header) {
+static std::vector<std::vector<double>> csvRows(const std::string& text, std::string& header) {
     std::istringstream in(text);
     std::getline(in, header);
     std::vector<std::vector<double>> rows;
@@ -31,16 +27,13 @@ std::vector<std::vector<double>> csvRows(const std::string& text, std::string& h
     return rows;
 }
 
-}  // namespace
-
 TEST(FormantsCommand, SpeechFromEspeakGivesOneRowPer10MsTheSameOnAnyThreadCount) {
     if (!toolAvailable("espeak-ng")) GTEST_SKIP() << "espeak-ng is not installed";
     TempDir dir;
     const auto wav = (dir / "speech.wav").string();
-    ASSERT_EQ(
-        std::system(
-            ("espeak-ng -w " + wav + " 'Formants of a speaking voice, measured every ten milliseconds.'").c_str()),
-        0);
+    const std::string speak =
+        "espeak-ng -w " + wav + " 'Formants of a speaking voice, measured every ten milliseconds.'";
+    ASSERT_EQ(runCommand(speak).exitCode, 0);
     const CommandResult one = run("formants " + wav + " --threads 1");
     ASSERT_EQ(one.exitCode, 0);
     std::string header;
@@ -68,10 +61,9 @@ TEST(SpectrumCommand, ASoxSineAt1000HzPeaksInItsBin) {
         const auto rows = csvRows(result.output, header);
         EXPECT_EQ(header, "freq_hz,db");
         ASSERT_EQ(rows.size(), static_cast<std::size_t>(fft / 2));
-        std::size_t peak = 0;
-        for (std::size_t k = 0; k < rows.size(); ++k)
-            if (rows[k][1] > rows[peak][1]) peak = k;
-        EXPECT_EQ(peak, static_cast<std::size_t>(std::lround(1000.0 * fft / 11025))) << fft;
+        const auto peak =
+            std::max_element(rows.begin(), rows.end(), [](auto& a, auto& b) { return a[1] < b[1]; }) - rows.begin();
+        EXPECT_EQ(peak, std::lround(1000.0 * fft / 11025)) << fft;
         EXPECT_NEAR(rows[peak][0], 1000.0, 11025.0 / fft);
     }
 }
@@ -89,9 +81,7 @@ TEST(SpectrogramCommand, WritesAPictureOfTheAskedSize) {
     std::vector<unsigned char> head(24);
     in.read(reinterpret_cast<char*>(head.data()), 24);
     ASSERT_EQ(in.gcount(), 24);
-    EXPECT_EQ(head[1], 'P');
-    EXPECT_EQ(head[2], 'N');
-    EXPECT_EQ(head[3], 'G');
+    EXPECT_EQ(std::string(head.begin() + 1, head.begin() + 4), "PNG");
     // The header chunk holds the width and height, big-endian, at bytes 16 and 20.
     EXPECT_EQ((head[16] << 24) | (head[17] << 16) | (head[18] << 8) | head[19], 320);
     EXPECT_EQ((head[20] << 24) | (head[21] << 16) | (head[22] << 8) | head[23], 200);

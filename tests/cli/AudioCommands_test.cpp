@@ -7,8 +7,6 @@
 #include "RunCommand.h"
 #include "TempDir.h"
 
-namespace {
-
 TEST(AudioCommands, RefusalsNameTheFaultAndAnEmptyPlayEndsQuietly) {
     TempDir dir;
     // One second of 11025 Hz mono 16-bit made by sox, and a WAV file with no samples at all.
@@ -34,5 +32,3 @@ TEST(AudioCommands, RefusalsNameTheFaultAndAnEmptyPlayEndsQuietly) {
         EXPECT_EQ(run.output.substr(0, row.says.size()), row.says) << row.arguments;
     }
 }
-
-}  // namespace

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -15,34 +13,21 @@ namespace {
 
 struct CliRun {
     int status = -1;
-    std::string out;
-    std::string err;
-    std::vector<std::string> lines() const {
-        std::vector<std::string> result;
-        std::istringstream in(out);
-        for (std::string line; std::getline(in, line);) result.push_back(line);
-        return result;
-    }
+    std::string out, err;
+    std::vector<std::string> lines() const { return splitLines(out); }
 };
 
 CliRun runF0(const TempDir& dir, const std::string& arguments) {
-    const std::string command =
-        std::string(SONALYS_CLI_PATH) + " f0 " + arguments + " 2>" + (dir / "stderr.txt").string();
-    const CommandResult run = runCommand(command);
-    CliRun result{run.exitCode, run.output, dir.read("stderr.txt")};
-    return result;
+    const CommandResult run = runCommand(SONALYS_CLI_PATH " f0 " + arguments + " 2>" + quoted(dir / "stderr.txt"));
+    return {run.exitCode, run.output, dir.read("stderr.txt")};
 }
 
 // A sine of `hz` written as a WAV file of `channels` channels at `rate` Hz and `bits` bits.
 std::string writeSine(const TempDir& dir, const std::string& name, int rate, double hz, double seconds,
                       int channels = 1, int bits = 16) {
+    const auto ch = std::uint16_t(channels), align = std::uint16_t(channels * bits / 8);
     WaveWriter writer;
-    writer.SetRecordFormat(3);
-    writer.format.nChannels = static_cast<std::uint16_t>(channels);
-    writer.format.nSamplesPerSec = static_cast<std::uint32_t>(rate);
-    writer.format.wBitsPerSample = static_cast<std::uint16_t>(bits);
-    writer.format.nBlockAlign = static_cast<std::uint16_t>(channels * bits / 8);
-    writer.format.nAvgBytesPerSec = static_cast<std::uint32_t>(rate) * writer.format.nBlockAlign;
+    writer.format = {1, ch, std::uint32_t(rate), std::uint32_t(rate) * align, align, std::uint16_t(bits), 0, {}};
     std::vector<std::int16_t> samples;
     for (int i = 0; i < static_cast<int>(rate * seconds); ++i)
         for (int c = 0; c < channels; ++c)
@@ -67,8 +52,7 @@ TEST(CommandF0, PrintsOneRowPerFrameAtTheFramesOwnTime) {
     EXPECT_EQ(lines[1 + 90].substr(0, 9), "0.995918,");   // 90 * 122 / 11025
     EXPECT_EQ(lines[1 + 899].substr(0, 9), "9.948118,");  // 899 * 122 / 11025
     EXPECT_EQ(lines[1 + 900].substr(0, 10), "10.000000,");
-    const double f0 = std::stod(lines[1 + 450].substr(9));
-    EXPECT_NEAR(f0, 200.0, 4.0);
+    EXPECT_NEAR(std::stod(lines[1 + 450].substr(9)), 200.0, 4.0);
 }
 
 TEST(CommandF0, StereoIsMixedAndStatsSummariseTheVoicedFrames) {
@@ -103,12 +87,13 @@ TEST(CommandF0, OptionsRunTheSameChunkedPath) {
 
 TEST(CommandF0, RefusesFilesItCannotTrack) {
     TempDir dir;
-    const CliRun low = runF0(dir, writeSine(dir, "low.wav", 3000, 200, 1));
-    EXPECT_EQ(low.status, 2);
-    EXPECT_NE(low.err.find("4000 Hz"), std::string::npos) << low.err;
-    EXPECT_TRUE(low.out.empty());
-    const CliRun eightBit = runF0(dir, writeSine(dir, "b8.wav", 22050, 200, 1, 1, 8));
-    EXPECT_EQ(eightBit.status, 2);
-    EXPECT_NE(eightBit.err.find("16-bit"), std::string::npos) << eightBit.err;
+    const std::pair<std::string, const char*> files[] = {{writeSine(dir, "low.wav", 3000, 200, 1), "4000 Hz"},
+                                                         {writeSine(dir, "b8.wav", 22050, 200, 1, 1, 8), "16-bit"}};
+    for (const auto& [file, says] : files) {
+        const CliRun refused = runF0(dir, file);
+        EXPECT_EQ(refused.status, 2);
+        EXPECT_NE(refused.err.find(says), std::string::npos) << refused.err;
+        EXPECT_TRUE(refused.out.empty());
+    }
     EXPECT_EQ(runF0(dir, (dir / "missing.wav").string()).status, 2);
 }

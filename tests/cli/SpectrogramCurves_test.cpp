@@ -9,13 +9,7 @@
 #include "RunCommand.h"
 #include "TempDir.h"
 
-namespace {
-
-CommandResult run(const std::string& arguments) {
-    return runCommand(std::string(SONALYS_CLI_PATH) + " " + arguments + " 2>/dev/null");
-}
-
-}  // namespace
+static CommandResult run(const std::string& args) { return runCommand(SONALYS_CLI_PATH " " + args + " 2>/dev/null"); }
 
 TEST(SpectrogramCurves, F0DotsOfA200HzToneStandAtTheirHeightOnTheScale) {
     if (!toolAvailable("sox")) GTEST_SKIP() << "sox is not installed";

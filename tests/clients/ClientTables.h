@@ -44,9 +44,7 @@ protected:
         table.CreateTable();
         for (int code : codes) ASSERT_EQ(table.InsertClient(makeClient(code, "Client " + std::to_string(code))), 1);
     }
-    void writeRows(const std::vector<std::vector<std::string>>& rows) {
-        writeForeignTable(file(), kPacienteFields, rows);
-    }
+    void writeRows(const std::vector<std::vector<std::string>>& r) { writeForeignTable(file(), kPacienteFields, r); }
     // Insert, update and delete, each refused: the user is told and nothing is written.
     void refuseEveryChange() {
         EXPECT_EQ(table.InsertClient(makeClient(9, "C")), 0);

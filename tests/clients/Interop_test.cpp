@@ -21,12 +21,7 @@ const Row kClients[] = {
      "(81)9888-7777", "Cantor lirico; tenor"},
 };
 
-std::vector<std::string> lines(const std::string& command) {
-    std::vector<std::string> result;
-    std::istringstream in(runCommand(command).output);
-    for (std::string line; std::getline(in, line);) result.push_back(line);
-    return result;
-}
+std::vector<std::string> lines(const std::string& command) { return splitLines(runCommand(command).output); }
 
 // The nine text buffers of a record with their places in the field order.
 template <class Record, class Visit>
@@ -64,14 +59,12 @@ TEST_F(Interop, GdalReadsOurTableWithTheElevenFieldsAndTheirValues) {
     const std::string path = writeOurTable();
     // Each feature lists every field as "  NAME (Type) = value".
     std::vector<std::string> fieldLines, expected;
-    for (const std::string& line : lines("ogrinfo -ro -al -q " + path)) {
+    for (const std::string& line : lines("ogrinfo -ro -al -q " + path))
         if (line.rfind("  ", 0) == 0 && line.find(" = ") != std::string::npos) fieldLines.push_back(line);
-    }
-    for (const Row& row : kClients) {
+    for (const Row& row : kClients)
         for (std::size_t f = 0; f < 11; ++f)
             expected.push_back("  " + std::string(kPacienteFields[f].name) + " (" + ogrType(kPacienteFields[f]) +
                                ") = " + row[f]);
-    }
     EXPECT_EQ(fieldLines, expected);
 }
 

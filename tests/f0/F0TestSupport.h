@@ -25,8 +25,7 @@ inline std::unique_ptr<F0Obj> initTracker(double rate, std::vector<std::string> 
     std::unique_ptr<F0Obj> tracker = f0Create();
     for (const std::string& setting : settings)
         if (!f0SetParam(tracker.get(), setting.c_str())) return nullptr;
-    int buffSize = 0;
-    int buffStep = 0;
+    int buffSize = 0, buffStep = 0;
     if (!f0Init(tracker.get(), rate, &buffSize, &buffStep)) return nullptr;
     return tracker;
 }
@@ -78,7 +77,3 @@ struct Glide {
         return out;
     }
 };
-
-inline std::vector<short> toShorts(const std::vector<float>& samples) {
-    return std::vector<short>(samples.begin(), samples.end());
-}

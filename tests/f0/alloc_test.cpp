@@ -7,11 +7,9 @@
 
 #include "F0TestSupport.h"
 
-namespace {
-std::atomic<long> allocations{0};
+static std::atomic<long> allocations{0};
 // Out of line, so that the compiler does not pair a visible malloc in operator new with free here.
-[[gnu::noinline]] void release(void* p) noexcept { std::free(p); }
-}  // namespace
+[[gnu::noinline]] static void release(void* p) noexcept { std::free(p); }
 
 void* operator new(std::size_t size) {
     ++allocations;

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "F0TestSupport.h"
 #include "f0/candidates.h"
 

@@ -1,40 +1,30 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 
 #include "F0TestSupport.h"
 #include "f0/rounding.h"
 
 TEST(F0Init, DerivedSizesAtTheSystemSettingsMatchTheTable) {
-    struct Row {
-        double rate;
-        int frameStep, windowSize, firstLag, lastLag, nLags, lpcOrder, decimate, filterLength, framesPerBuff, buffStep,
-            buffSize, frameAlloc;
-    };
     // The ring holds 1.5 s of frames: the float step 245/22050 s lies just above 1/90, so 134 frames, not 135.
-    const Row rows[] = {
-        {11025, 122, 83, 8, 184, 177, 13, 5, 55, 16, 1952, 2254, static_cast<int>(1.5 / float(122 / 11025.0))},
-        {22050, 245, 165, 16, 368, 353, 24, 11, 111, 16, 3920, 4526, 134},
-        {44100, 490, 331, 32, 735, 704, 46, 22, 221, 16, 7840, 9052, static_cast<int>(1.5 / float(490 / 44100.0))},
+    // frameStep, windowSize, firstLag, lastLag, nLags, lpcOrder, decimate, filter length, framesPerBuff, buffStep,
+    // buffSize, frameAlloc
+    const std::pair<double, std::array<int, 12>> rows[] = {
+        {11025, {122, 83, 8, 184, 177, 13, 5, 55, 16, 1952, 2254, static_cast<int>(1.5 / float(122 / 11025.0))}},
+        {22050, {245, 165, 16, 368, 353, 24, 11, 111, 16, 3920, 4526, 134}},
+        {44100, {490, 331, 32, 735, 704, 46, 22, 221, 16, 7840, 9052, static_cast<int>(1.5 / float(490 / 44100.0))}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.rate);
-        const auto t = systemTracker(row.rate);
+    for (const auto& [rate, sizes] : rows) {
+        SCOPED_TRACE(rate);
+        const auto t = systemTracker(rate);
         ASSERT_TRUE(t);
-        EXPECT_EQ(t->frameStep, row.frameStep);
-        EXPECT_EQ(t->windowSize, row.windowSize);
-        EXPECT_EQ(t->firstLag, row.firstLag);
-        EXPECT_EQ(t->lastLag, row.lastLag);
-        EXPECT_EQ(t->nLags, row.nLags);
-        EXPECT_EQ(t->lpcOrder, row.lpcOrder);
-        EXPECT_EQ(t->decimate, row.decimate);
-        EXPECT_EQ(downsampleFilterLength(t->filter.get()), row.filterLength);
-        EXPECT_EQ(t->framesPerBuff, row.framesPerBuff);
-        EXPECT_EQ(t->buffStep, row.buffStep);
-        EXPECT_EQ(t->buffSize, row.buffSize);
-        EXPECT_EQ(t->frameAlloc, row.frameAlloc);
+        EXPECT_EQ((std::array{t->frameStep, t->windowSize, t->firstLag, t->lastLag, t->nLags, t->lpcOrder, t->decimate,
+                              downsampleFilterLength(t->filter.get()), t->framesPerBuff, t->buffStep, t->buffSize,
+                              t->frameAlloc}),
+                  sizes);
         // The layers pass 1/90 s through six decimals: at 11025 Hz 122.5 samples would round to 123.
-        EXPECT_EQ(f0CreateTracker(static_cast<int>(row.rate), 60, 1400, 90)->frameStep, row.frameStep);
+        EXPECT_EQ(f0CreateTracker(static_cast<int>(rate), 60, 1400, 90)->frameStep, sizes[0]);
     }
 }
 
@@ -104,8 +94,7 @@ TEST_F(F0DeathTest, PreconditionsEndTheProgramNamingTheExpression) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto initBelow4000 = [] {
         auto t = f0Create();
-        int size = 0;
-        int step = 0;
+        int size = 0, step = 0;
         f0Init(t.get(), 3000, &size, &step);  // no decimation filter below 4000 Hz
     };
     EXPECT_DEATH(initBelow4000(), "Assertion failed: filter");

@@ -5,13 +5,9 @@
 #include "WaveData.h"
 #include "store/OpenOtherFile.h"
 
-namespace {
-
-StereoChooser choose(std::optional<StereoChoice> choice) {
+static StereoChooser choose(std::optional<StereoChoice> choice) {
     return [choice] { return choice; };
 }
-
-}  // namespace
 
 // The dialog, the title, the mark and a refusal are checked where the view opens a file; here the sums that would
 // overflow 16 bits, the right channel and the format the recording takes.

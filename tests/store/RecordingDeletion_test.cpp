@@ -7,19 +7,11 @@
 #include "TempDir.h"
 #include "store/RecordingDeletion.h"
 
-namespace {
-
-std::set<std::string> filesIn(const std::filesystem::path& folder) {
+static std::set<std::string> filesIn(const std::filesystem::path& folder) {
     std::set<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) names.insert(entry.path().filename());
     return names;
 }
-
-void makeRecording(const TempDir& root, const std::string& stem) {
-    for (const char* extension : {".wav", ".ddt", ".mrk", ".txt", ".bkp", ".rtf"}) root.write(stem + extension, "x");
-}
-
-}  // namespace
 
 // From the view a wv recording keeps its notes and a qv one loses them; from the list both keep their labels.
 // Only a sound that stays is reported: a side file that cannot go is passed over in silence. Immutable files
@@ -43,7 +35,8 @@ TEST(DeleteRecording, EachWayRemovesItsOwnFilesAndReportsOnlyASoundThatStays) {
     for (const auto& c : cases) {
         TempDir root;
         FakePrompt prompt;
-        makeRecording(root, std::string("pac003/") + c.stem);
+        for (const char* ext : {".wav", ".ddt", ".mrk", ".txt", ".bkp", ".rtf"})
+            root.write("pac003/" + std::string(c.stem) + ext, "x");
         const std::string stuck = quoted(root / "pac003" / c.stuck);
         if (*c.stuck && runCommand("chattr +i " + stuck + " 2>/dev/null").exitCode != 0) continue;
         const bool wv = c.stem[0] == 'w' || c.stem[0] == 'W';

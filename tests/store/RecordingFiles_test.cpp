@@ -6,17 +6,13 @@
 #include "store/LoadedRecording.h"
 #include "store/RecordingFiles.h"
 
-namespace {
-
 const std::string kTooMany = "Number of files exceeds to 150!\nInsert a new client to continue...";
 
-std::string name(const char* prefix, int number, const char* extension) {
+static std::string name(const char* prefix, int number, const char* extension) {
     char text[32];
     std::snprintf(text, sizeof text, "%s%03d.%s", prefix, number, extension);
     return text;
 }
-
-}  // namespace
 
 TEST(RecordingPaths, StemFollowsTheRateAndTheCodeHasAtLeastThreeDigits) {
     const std::filesystem::path root = "/data";
@@ -126,9 +122,7 @@ TEST(ProbeRecording, DateComesFromTheDateFileOfTheSoundFoundOrTheFileSystem) {
 TEST(RecordingList, RowsReadTheDateInTheLanguagesOrder) {
     const CalendarDate date{2010, 1, 2};
     const FakePrompt english;
-    EXPECT_EQ(ListRowText(date, 5, 0, english), "01/02/2010 File 5");
-    EXPECT_EQ(ListRowText(date, 5, 1, english), "02/01/2010 File 5");
-    EXPECT_EQ(ListRowText(date, 5, 2, english), "2010/01/02 File 5");
-    EXPECT_EQ(ListRowText(date, 5, 3, english), "02/01/2010 File 5");
+    const char* rows[] = {"01/02/2010 File 5", "02/01/2010 File 5", "2010/01/02 File 5", "02/01/2010 File 5"};
+    for (int lang = 0; lang < 4; ++lang) EXPECT_EQ(ListRowText(date, 5, lang, english), rows[lang]) << lang;
     EXPECT_EQ(ListRowText(date, 123, 7, english), "01/02/2010 File 123");
 }

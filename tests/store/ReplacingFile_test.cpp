@@ -7,12 +7,10 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-bool replace(const fs::path& target, std::string_view text) {
+static bool replace(const fs::path& target, std::string_view text) {
     ReplacingFile file(target);
     return file.write(text.data(), text.size()) && file.commit();
 }
-}  // namespace
 
 // A table kept private stays private, a table shared through a link stays shared, and a file the user made
 // read-only is refused and left as it was.

@@ -5,15 +5,11 @@
 #include "WaveData.h"
 #include "store/WaveFile.h"
 
-namespace {
-
-WaveWriter writerAt(int index) {
+static WaveWriter writerAt(int index) {
     WaveWriter writer;
     writer.SetRecordFormat(index);
     return writer;
 }
-
-}  // namespace
 
 TEST(WaveWrite, WritesThePlainPcmHeaderWhateverFormatWasLoadedAndRefusesWhereItCannot) {
     TempDir dir;

@@ -5,8 +5,10 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 struct CommandResult {
     int exitCode = -1;
@@ -24,11 +26,17 @@ inline CommandResult runCommand(const std::string& command) {
     return result;
 }
 
+inline std::vector<std::string> splitLines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) lines.push_back(line);
+    return lines;
+}
+
 inline bool toolAvailable(std::string_view tool) {
     return runCommand("command -v " + std::string(tool) + " >/dev/null 2>&1").exitCode == 0;
 }
 
-// A path in single quotes for the shell.
 inline std::string quoted(const std::filesystem::path& path) {
     std::string out = "'";
     for (char c : path.string()) out += (c == '\'') ? std::string("'\\''") : std::string(1, c);

@@ -1,22 +1,21 @@
 // A fresh folder for one test, removed with everything in it when the test ends.
 #pragma once
 
-#include <atomic>
+#include <stdlib.h>
+
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
-#include <random>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 class TempDir {
 public:
     TempDir() {
-        static std::atomic<int> counter{0};
-        std::random_device random;
-        m_path = std::filesystem::temp_directory_path() /
-                 ("sonalys-test-" + std::to_string(random()) + "-" + std::to_string(counter++));
-        std::filesystem::create_directories(m_path);
+        std::string name = (std::filesystem::temp_directory_path() / "sonalys-test-XXXXXX").string();
+        m_path = ::mkdtemp(name.data()) ? name : throw std::system_error(errno, std::generic_category(), name);
     }
     ~TempDir() {
         std::error_code ignored;
