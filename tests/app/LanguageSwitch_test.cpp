@@ -1,5 +1,6 @@
-// A language chosen in the menu takes over menus, panels and the view's captions at once and is kept in lang.dat;
-// pictures of the main window on each page in each language are saved under the build tree, checked for cut text.
+// A language chosen in the menu takes over menus, panels, the view's captions and the user guide at once and is
+// kept in lang.dat; pictures of the main window on each page in each language are saved under the build tree,
+// checked for cut text.
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
@@ -7,8 +8,10 @@
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
+#include <QTextBrowser>
 
 #include "ProgramOnRoot.h"
+#include "app/HelpBrowser.h"
 #include "panels/CMyBarra.h"
 #include "view/CAFView.h"
 #include "view/ViewCommands.h"
@@ -48,6 +51,8 @@ class LanguageSwitchTest : public QObject {
 private slots:
     void switchShowsTheLanguageAtOnce_data();
     void switchShowsTheLanguageAtOnce();
+    void helpOpensInTheLanguage_data();
+    void helpOpensInTheLanguage();
 };
 
 void LanguageSwitchTest::switchShowsTheLanguageAtOnce_data() {
@@ -96,6 +101,36 @@ void LanguageSwitchTest::switchShowsTheLanguageAtOnce() {
                 QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), qPrintable(text));
         }
     }
+}
+
+void LanguageSwitchTest::helpOpensInTheLanguage_data() {
+    QTest::addColumn<int>("command");
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("es") << 32893 << "qrc:/help/es/index.html"
+                        << "Guía del usuario de Sonalys";
+    QTest::newRow("ko") << 32892 << "qrc:/help/ko/index.html"
+                        << "Sonalys 사용 설명서";
+    QTest::newRow("pt") << 32894 << "qrc:/help/pt/index.html"
+                        << "Guia do usuário do Sonalys";
+}
+
+// The guide opens in the language in force, and an open guide follows a later switch back to English.
+void LanguageSwitchTest::helpOpensInTheLanguage() {
+    QFETCH(int, command);
+    QFETCH(QString, page);
+    QFETCH(QString, title);
+    DemoCopy root;
+    ProgramOnRoot program{root.path()};
+    CMainFrame& frame = program.frame();
+    frame.command(command)->trigger();
+    frame.command(kIdContents)->trigger();
+    const auto* help = frame.findChild<HelpBrowser*>();
+    QVERIFY(help != nullptr);
+    QCOMPARE(help->browser()->source(), QUrl(page));
+    QCOMPARE(help->browser()->documentTitle(), title);
+    frame.command(32891)->trigger();
+    QCOMPARE(help->browser()->documentTitle(), QString("Sonalys user guide"));
 }
 
 QTEST_MAIN(LanguageSwitchTest)
