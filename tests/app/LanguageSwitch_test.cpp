@@ -140,8 +140,9 @@ void LanguageSwitchTest::helpOpensInTheLanguage() {
     CMainFrame& frame = program.frame();
     frame.command(command)->trigger();
     frame.command(kIdContents)->trigger();
-    const auto* help = frame.findChild<HelpBrowser*>();
+    auto* help = frame.findChild<HelpBrowser*>();
     QVERIFY(help != nullptr);
+    saveScreenshot(*help, QString("help-") + QTest::currentDataTag());
     QCOMPARE(help->browser()->source(), QUrl(page));
     QCOMPARE(help->browser()->documentTitle(), title);
     frame.command(32891)->trigger();
