@@ -1187,5 +1187,9 @@ Se abre en modo de solo lectura y no se guarda en ella ningún cambio.</translat
         <source>Wait, starting audio devices...</source>
         <translation>Espere, iniciando los dispositivos de audio...</translation>
     </message>
+    <message>
+        <source>%d Hz, %d Bits</source>
+        <translation>%d Hz, %d bits</translation>
+    </message>
 </context>
 </TS>

@@ -1187,5 +1187,9 @@ It is opened read-only and no change is written to it.</source>
         <source>Wait, starting audio devices...</source>
         <translation>잠시 기다려 주십시오. 오디오 장치를 시작하는 중입니다...</translation>
     </message>
+    <message>
+        <source>%d Hz, %d Bits</source>
+        <translation>%d Hz, %d비트</translation>
+    </message>
 </context>
 </TS>

@@ -1187,5 +1187,9 @@ Ela é aberta somente para leitura e nenhuma alteração é gravada nela.</trans
         <source>Wait, starting audio devices...</source>
         <translation>Aguarde, iniciando os dispositivos de áudio...</translation>
     </message>
+    <message>
+        <source>%d Hz, %d Bits</source>
+        <translation>%d Hz, %d Bits</translation>
+    </message>
 </context>
 </TS>

@@ -431,6 +431,7 @@ void CMainFrame::retranslate() {
     if (m_toolBar != nullptr) m_toolBar->setWindowTitle(uiText(kMenuFiles).remove('&'));
     m_view->retranslate();
     if (m_ready != nullptr) m_ready->setText(uiText(kReady));
+    if (auto* help = qobject_cast<HelpBrowser*>(m_help.data())) help->setLanguage(m_app.languageId());
 }
 
 QAction* CMainFrame::command(int id) const {
@@ -535,7 +536,7 @@ void CMainFrame::f0Setting() {
 }
 
 void CMainFrame::contents() {
-    if (!m_help) m_help = new HelpBrowser(this);
+    if (!m_help) m_help = new HelpBrowser(m_app.languageId(), this);
     m_help->show();
     m_help->raise();
     m_help->activateWindow();

@@ -121,6 +121,9 @@ void CPaciente::buildForm() {
     m_homePhone = addTextBox("homePhone", kPhoneLimit);
     m_workPhone = addTextBox("workPhone", kPhoneLimit);
     m_observations = addTextBox("observations", kObservationsLimit);
+    // The boxes keep their room whatever the length of the labels in the language in force: a sentence of notes
+    // (some 55 characters) shows whole even where the labels are short.
+    m_observations->setMinimumWidth(m_observations->fontMetrics().horizontalAdvance(QString(48, QLatin1Char('n'))));
 
     auto* cityRow = new QHBoxLayout;
     cityRow->addWidget(m_city, 1);
@@ -200,6 +203,9 @@ void CPaciente::fillFrom(const PacienteRecord& record) {
     m_homePhone->setText(text(record.FoneR));
     m_workPhone->setText(text(record.FoneC));
     m_observations->setText(text(record.Obs));
+    // A text longer than its box shows its beginning, not its end.
+    for (QLineEdit* box : {m_address, m_city, m_state, m_postalCode, m_homePhone, m_workPhone, m_observations})
+        box->setCursorPosition(0);
 }
 
 void CPaciente::dayEdited(const QString& text) {

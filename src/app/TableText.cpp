@@ -7,7 +7,9 @@
 
 namespace {
 
-const char* codePage(LanguageId language) { return language == LanguageId::Korean ? "CP949" : "windows-1252"; }
+// Windows' own Korean code page, with the syllables past the KS X 1001 set. The name matters: "CP949" is IBM's
+// Korean code page to the converter, which lacks those syllables.
+const char* codePage(LanguageId language) { return language == LanguageId::Korean ? "windows-949" : "windows-1252"; }
 
 // Nothing when the text cannot be written in the code page.
 std::optional<QByteArray> encode(const QString& text, LanguageId language) {

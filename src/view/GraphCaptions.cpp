@@ -39,7 +39,8 @@ std::string DurationText(std::int64_t count, int rate) {
 }
 
 std::string FormatLineText(const WaveFormat& format) {
-    std::string line = formatText(kFormatLine.data(), static_cast<int>(format.nSamplesPerSec),
+    // The template is looked up before it is filled in: a filled-in line has no translation of its own.
+    std::string line = formatText(text(kFormatLine).toStdString().c_str(), static_cast<int>(format.nSamplesPerSec),
                                   static_cast<int>(format.wBitsPerSample));
     return line + (format.nChannels == 1 ? text(kMonoSuffix) : text(kStereoSuffix)).toStdString();
 }

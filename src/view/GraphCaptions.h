@@ -23,7 +23,8 @@ inline constexpr std::string_view kTimeCaption = QT_TRANSLATE_NOOP("Sonalys", "T
 // The hour is always the literal 00: a recording of over an hour counts its minutes past 59. The comma is part
 // of the text, not the locale's.
 inline constexpr std::string_view kDurationFormat = "00:%02d:%02d,%03d";
-inline constexpr std::string_view kFormatLine = "%d Hz, %d Bits";
+// The rate and the sample size; the units stay as they are in every language.
+inline constexpr std::string_view kFormatLine = QT_TRANSLATE_NOOP("Sonalys", "%d Hz, %d Bits");
 inline constexpr std::string_view kMonoSuffix = QT_TRANSLATE_NOOP("Sonalys", " Mono");
 inline constexpr std::string_view kStereoSuffix = QT_TRANSLATE_NOOP("Sonalys", " Stereo");
 inline constexpr std::string_view kFileCaption = QT_TRANSLATE_NOOP("Sonalys", "File:");

@@ -1,5 +1,6 @@
-// A language chosen in the menu takes over menus, panels and the view's captions at once and is kept in lang.dat;
-// pictures of the main window on each page in each language are saved under the build tree, checked for cut text.
+// A language chosen in the menu takes over menus, panels, the view's captions and the user guide at once and is
+// kept in lang.dat; pictures of the main window on each page in each language are saved under the build tree,
+// checked for cut text.
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
@@ -7,8 +8,14 @@
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
+#include <QTextBrowser>
 
+#include "DataRoot.h"
 #include "ProgramOnRoot.h"
+#include "app/CAbrirSessao.h"
+#include "app/CPaciente.h"
+#include "app/HelpBrowser.h"
+#include "app/MessageBoxPrompt.h"
 #include "panels/CMyBarra.h"
 #include "view/CAFView.h"
 #include "view/ViewCommands.h"
@@ -41,6 +48,23 @@ QImage viewPainting(QWidget* view) {
     return image;
 }
 
+// Every visible button and label shows its whole text in the room it has.
+void checkEveryTextFits(const QWidget& window) {
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const QString text = button ? button->text() : label ? label->text() : QString();
+        if (widget->isVisible() && !text.isEmpty())
+            QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), qPrintable(text));
+    }
+}
+
+void saveScreenshot(QWidget& window, const QString& name) {
+    const QString folder = QStringLiteral(SONALYS_SCREENSHOT_DIR);
+    QDir().mkpath(folder);
+    QVERIFY(window.grab().save(folder + QString("/%1.png").arg(name)));
+}
+
 }  // namespace
 
 class LanguageSwitchTest : public QObject {
@@ -48,6 +72,10 @@ class LanguageSwitchTest : public QObject {
 private slots:
     void switchShowsTheLanguageAtOnce_data();
     void switchShowsTheLanguageAtOnce();
+    void helpOpensInTheLanguage_data();
+    void helpOpensInTheLanguage();
+    void clientFormAndRecordingListInEachLanguage_data();
+    void clientFormAndRecordingListInEachLanguage();
 };
 
 void LanguageSwitchTest::switchShowsTheLanguageAtOnce_data() {
@@ -85,17 +113,70 @@ void LanguageSwitchTest::switchShowsTheLanguageAtOnce() {
         // The menu bar lays its new titles out from posted layout requests: run them before the picture.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         QCoreApplication::processEvents();
-        const QString folder = QStringLiteral(SONALYS_SCREENSHOT_DIR);
-        QDir().mkpath(folder);
-        QVERIFY(frame.grab().save(folder + QString("/main-window-%1-%2.png").arg(QTest::currentDataTag(), page)));
-        for (const QWidget* widget : frame.findChildren<QWidget*>()) {
-            const auto* button = qobject_cast<const QAbstractButton*>(widget);
-            const auto* label = qobject_cast<const QLabel*>(widget);
-            const QString text = button ? button->text() : label ? label->text() : QString();
-            if (widget->isVisible() && !text.isEmpty())
-                QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), qPrintable(text));
-        }
+        saveScreenshot(frame, QString("main-window-%1-%2").arg(QTest::currentDataTag(), page));
+        checkEveryTextFits(frame);
     }
+}
+
+void LanguageSwitchTest::helpOpensInTheLanguage_data() {
+    QTest::addColumn<int>("command");
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("es") << 32893 << "qrc:/help/es/index.html"
+                        << "Guía del usuario de Sonalys";
+    QTest::newRow("ko") << 32892 << "qrc:/help/ko/index.html"
+                        << "Sonalys 사용 설명서";
+    QTest::newRow("pt") << 32894 << "qrc:/help/pt/index.html"
+                        << "Guia do usuário do Sonalys";
+}
+
+// The guide opens in the language in force, and an open guide follows a later switch back to English.
+void LanguageSwitchTest::helpOpensInTheLanguage() {
+    QFETCH(int, command);
+    QFETCH(QString, page);
+    QFETCH(QString, title);
+    DemoCopy root;
+    ProgramOnRoot program{root.path()};
+    CMainFrame& frame = program.frame();
+    frame.command(command)->trigger();
+    frame.command(kIdContents)->trigger();
+    auto* help = frame.findChild<HelpBrowser*>();
+    QVERIFY(help != nullptr);
+    saveScreenshot(*help, QString("help-") + QTest::currentDataTag());
+    QCOMPARE(help->browser()->source(), QUrl(page));
+    QCOMPARE(help->browser()->documentTitle(), title);
+    frame.command(32891)->trigger();
+    QCOMPARE(help->browser()->documentTitle(), QString("Sonalys user guide"));
+}
+
+void LanguageSwitchTest::clientFormAndRecordingListInEachLanguage_data() {
+    QTest::addColumn<int>("command");
+    QTest::newRow("en") << 32891;
+    QTest::newRow("es") << 32893;
+    QTest::newRow("ko") << 32892;
+    QTest::newRow("pt") << 32894;
+}
+
+void LanguageSwitchTest::clientFormAndRecordingListInEachLanguage() {
+    QFETCH(int, command);
+    DemoCopy root;
+    ProgramOnRoot program{root.path()};
+    program.frame().command(command)->trigger();
+    const LanguageId language = program.frame().languageId();
+    MessageBoxPrompt prompt;  // the screen's own, which looks the list's row template up in the language
+    CPacienteTable table(root.path(), prompt);
+    table.SetFileName(std::string(kClientTableName));
+    PacienteRecord current;
+    const PacienteRecord client = tableRecords(root.path()).at(0);
+    CPaciente form(CPaciente::EditMode, client, table, current, root.path(), language, prompt);
+    CAbrirSessao list(client, root.path(), language, prompt);
+    for (QDialog* dialog : {static_cast<QDialog*>(&form), static_cast<QDialog*>(&list)}) {
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        checkEveryTextFits(*dialog);
+    }
+    saveScreenshot(form, QString("client-form-") + QTest::currentDataTag());
+    saveScreenshot(list, QString("recording-list-") + QTest::currentDataTag());
 }
 
 QTEST_MAIN(LanguageSwitchTest)

@@ -6,6 +6,7 @@
 #include "app/MessageBoxPrompt.h"
 #include "audio/WaveDevice.h"
 #include "store/RecordingFiles.h"
+#include "view/GraphCaptions.h"
 
 class TemplatesInLanguageTest : public QObject {
     Q_OBJECT
@@ -23,6 +24,8 @@ void TemplatesInLanguageTest::templatesAreTranslatedBeforeTheyAreFilled() {
              QString("02/01/2010 Archivo 5"));
     QCOMPARE(QString::fromStdString(waveErrorText(77, screen)),
              QString("El dispositivo de sonido informó el error 77."));
+    QCOMPARE(QString::fromStdString(FormatLineText(WaveFormat{1, 1, 22050, 44100, 2, 16, 0, {}})),
+             QString("22050 Hz, 16 bits Mono"));
     QCOMPARE(QString::fromStdString(waveErrorText(77)), QString("The sound device reported error 77."));
     QCoreApplication::removeTranslator(&spanish);
 }
