@@ -1,5 +1,6 @@
 #include "app/CPaciente.h"
 
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -51,6 +52,7 @@ private slots:
     void birthDateIsTypedInTheLanguagesOrder();
     void theFormRefusesWhatItCannotStore();
     void anOldFolderIsReusedAfterAWordAndAClientGoneIsLeftAlone();
+    void koreanIsStoredInCodePage949AndShownAgain();
 };
 
 void CPacienteTest::birthDateIsTypedInTheLanguagesOrder_data() {
@@ -132,6 +134,40 @@ void CPacienteTest::anOldFolderIsReusedAfterAWordAndAClientGoneIsLeftAlone() {
     gone.ok();
     QCOMPARE(gone.prompt.shown, std::vector<std::string>{std::string(kClientNoLongerInTable)});
     QCOMPARE(tableNames(root.path()), (std::vector<std::string>{"Ana", "Bia", "Davi"}));
+}
+
+// Korean reaches a text box from the input method, a syllable block at a time. The table keeps it in the Korean
+// Windows code page (949), 똠 from that page's own extension included, and the form shows it again unchanged.
+void CPacienteTest::koreanIsStoredInCodePage949AndShownAgain() {
+    const auto commit = [](QLineEdit* box, const QString& text) {
+        box->setFocus();
+        for (const QChar syllable : text) {
+            QInputMethodEvent event;
+            event.setCommitString(QString(syllable));
+            QCoreApplication::sendEvent(box, &event);
+        }
+    };
+    const std::string name = "\xB1\xE8\xB9\xCE\xC1\xF6", address = "\x8C\x63\xB9\xE6\xB1\xE6 5";  // 김민지, 똠방길 5
+    DataRoot root;
+    {
+        Form form(root, CPaciente::InsertMode, makeRecord({1, ""}), LanguageId::Korean);
+        commit(form.box("name"), QString::fromUtf8("김민지"));
+        commit(form.box("address"), QString::fromUtf8("똠방길 5"));
+        form.check("woman");
+        form.ok();
+        QVERIFY(form.prompt.shown.empty());
+    }
+    for (int round = 0; round < 2; ++round) {  // as typed, then opened and kept unchanged
+        const PacienteRecord record = tableRecords(root.path()).at(0);
+        QCOMPARE(std::string(recordText(record.Nome)), name);
+        QCOMPARE(std::string(recordText(record.Endereco)), address);
+        if (round == 1) break;
+        Form form(root, CPaciente::EditMode, record, LanguageId::Korean);
+        QCOMPARE(form.box("name")->text(), QString::fromUtf8("김민지"));
+        QCOMPARE(form.box("address")->text(), QString::fromUtf8("똠방길 5"));
+        form.ok();
+        QVERIFY(form.prompt.shown.empty());
+    }
 }
 
 QTEST_MAIN(CPacienteTest)

@@ -72,7 +72,6 @@ class LanguageSwitchTest : public QObject {
 private slots:
     void switchShowsTheLanguageAtOnce_data();
     void switchShowsTheLanguageAtOnce();
-    void helpOpensInTheLanguage_data();
     void helpOpensInTheLanguage();
     void clientFormAndRecordingListInEachLanguage_data();
     void clientFormAndRecordingListInEachLanguage();
@@ -118,35 +117,28 @@ void LanguageSwitchTest::switchShowsTheLanguageAtOnce() {
     }
 }
 
-void LanguageSwitchTest::helpOpensInTheLanguage_data() {
-    QTest::addColumn<int>("command");
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("es") << 32893 << "qrc:/help/es/index.html"
-                        << "Guía del usuario de Sonalys";
-    QTest::newRow("ko") << 32892 << "qrc:/help/ko/index.html"
-                        << "Sonalys 사용 설명서";
-    QTest::newRow("pt") << 32894 << "qrc:/help/pt/index.html"
-                        << "Guia do usuário do Sonalys";
-}
-
 // The guide opens in the language in force, and an open guide follows a later switch back to English.
 void LanguageSwitchTest::helpOpensInTheLanguage() {
-    QFETCH(int, command);
-    QFETCH(QString, page);
-    QFETCH(QString, title);
+    const struct {
+        int command;
+        const char *language, *title;
+    } rows[] = {{32893, "es", "Guía del usuario de Sonalys"},
+                {32892, "ko", "Sonalys 사용 설명서"},
+                {32894, "pt", "Guia do usuário do Sonalys"}};
     DemoCopy root;
     ProgramOnRoot program{root.path()};
     CMainFrame& frame = program.frame();
-    frame.command(command)->trigger();
-    frame.command(kIdContents)->trigger();
-    auto* help = frame.findChild<HelpBrowser*>();
-    QVERIFY(help != nullptr);
-    saveScreenshot(*help, QString("help-") + QTest::currentDataTag());
-    QCOMPARE(help->browser()->source(), QUrl(page));
-    QCOMPARE(help->browser()->documentTitle(), title);
-    frame.command(32891)->trigger();
-    QCOMPARE(help->browser()->documentTitle(), QString("Sonalys user guide"));
+    for (const auto& row : rows) {
+        frame.command(row.command)->trigger();
+        frame.command(kIdContents)->trigger();
+        auto* help = frame.findChild<HelpBrowser*>();
+        QVERIFY(help != nullptr);
+        saveScreenshot(*help, QString("help-") + row.language);
+        QCOMPARE(help->browser()->source(), QUrl(QString("qrc:/help/%1/index.html").arg(row.language)));
+        QCOMPARE(help->browser()->documentTitle(), QString::fromUtf8(row.title));
+        frame.command(32891)->trigger();
+        QCOMPARE(help->browser()->documentTitle(), QString("Sonalys user guide"));
+    }
 }
 
 void LanguageSwitchTest::clientFormAndRecordingListInEachLanguage_data() {
