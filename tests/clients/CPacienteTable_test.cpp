@@ -48,8 +48,11 @@ TEST_F(ClientTable, UpdatingOrDeletingARowPastTheEndOrMinusOneChangesTheLastRow)
     for (const auto& c : cases) {
         std::filesystem::remove(file());
         createWith({1, 2, 3});
-        if (c.remove) EXPECT_EQ(table.DeleteClient(c.recordNumber), 1);
-        if (!c.remove) table.UpdateClient(c.recordNumber, makeClient(9, "Changed"));
+        if (c.remove) {
+            EXPECT_EQ(table.DeleteClient(c.recordNumber), 1);
+        } else {
+            table.UpdateClient(c.recordNumber, makeClient(9, "Changed"));
+        }
         ASSERT_EQ(table.LoadClients(), static_cast<int>(c.left.size()));
         EXPECT_EQ(codes(), c.left) << c.remove << " " << c.recordNumber;
     }
