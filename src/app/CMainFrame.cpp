@@ -77,6 +77,18 @@ constexpr LanguageCommand kLanguageCommands[] = {
 constexpr QPoint kBusyTextAt(600, 7);
 constexpr int kBusyTextWidth = 200;
 
+// The view's audio held for the life of a modal dialog, and given back however the dialog ends.
+class DialogHold {
+public:
+    explicit DialogHold(CAFView& view) : m_view(view) { m_view.HoldAudioForDialog(true); }
+    ~DialogHold() { m_view.HoldAudioForDialog(false); }
+    DialogHold(const DialogHold&) = delete;
+    DialogHold& operator=(const DialogHold&) = delete;
+
+private:
+    CAFView& m_view;
+};
+
 }  // namespace
 
 CMainFrame::CMainFrame(CAFApp& app, QWidget* parent)
@@ -195,7 +207,11 @@ void CMainFrame::noClient() {
 
 void CMainFrame::openClient() {
     CAbrirPaciente list(*this);
-    switch (list.exec()) {
+    const int chosen = [&] {
+        const DialogHold hold(*m_view);
+        return list.exec();
+    }();
+    switch (chosen) {
     case CAbrirPaciente::ClientChosen: openCurrentClient(); break;
     case CAbrirPaciente::NewClientChosen: newClient(); break;
     case CAbrirPaciente::OtherFilesChosen: openOtherFiles(); break;
@@ -250,6 +266,7 @@ void CMainFrame::personalInformation() {
     }
     CPaciente form(CPaciente::EditMode, m_table->EntryAt(0)->record, *m_table, CurrentClient, m_home, languageId(),
                    m_prompt, this);
+    const DialogHold hold(*m_view);
     if (form.exec() != QDialog::Accepted) return;
     CurrentClient = form.record();
     applyClientTypeRange();
@@ -303,7 +320,11 @@ void CMainFrame::openRecording() {
     }
     CAbrirSessao list(CurrentClient, m_home, languageId(), m_prompt, false, this);
     connect(&list, &CAbrirSessao::recordingDeleted, this, &CMainFrame::recordingDeleted);
-    if (list.exec() == CAbrirSessao::RecordingChosen) {
+    const int chosen = [&] {
+        const DialogHold hold(*m_view);
+        return list.exec();
+    }();
+    if (chosen == CAbrirSessao::RecordingChosen) {
         emit recordingChosen(list.RecordingNumber(), list.Kind());
     } else {
         setDocumentTitle(TableTextToScreen(recordText(CurrentClient.Nome), languageId()));
@@ -483,22 +504,6 @@ void CMainFrame::ShowBusyText(const QString& text) {
 }
 
 QString CMainFrame::busyText() const { return m_busyText->isVisible() ? m_busyText->text() : QString(); }
-
-namespace {
-
-// The view's audio held for the life of a modal dialog, and given back however the dialog ends.
-class DialogHold {
-public:
-    explicit DialogHold(CAFView& view) : m_view(view) { m_view.HoldAudioForDialog(true); }
-    ~DialogHold() { m_view.HoldAudioForDialog(false); }
-    DialogHold(const DialogHold&) = delete;
-    DialogHold& operator=(const DialogHold&) = delete;
-
-private:
-    CAFView& m_view;
-};
-
-}  // namespace
 
 void CMainFrame::volume() {
     // Without the master level no mixer of our own is up: the desktop's volume control takes over.

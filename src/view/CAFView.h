@@ -210,8 +210,8 @@ public:
     // The record format chosen with the panel's rate button (an index of the record-format table: 3, 5 or 7 from
     // the button): the recorder takes it, and the live pages follow its rate.
     void SetRecordFormat(int index);
-    // A modal dialog keeps the window from serving the sound: while it is open the audio is held as an open list
-    // of the panel holds it (a play pauses, captured buffers are thrown away), and given back when it closes.
+    // A modal dialog keeps the window from serving the sound: while it is open a play pauses and captured buffers
+    // are thrown away, and both are given back when it closes.
     void HoldAudioForDialog(bool hold);
     // Captured buffers are thrown away while this is set: an open list or a recomputation holds the window.
     bool RecordPaused = false;
@@ -448,6 +448,7 @@ private:
     ChunkedPlayback m_play;
     const std::int16_t* m_playBase = nullptr;  // the samples the play's offsets count from
     std::int64_t m_playCount = 0;
-    bool m_playingCapture = false;  // the samples of a paused take are being played
+    bool m_playingCapture = false;   // the samples of a paused take are being played
+    bool m_pausedForDialog = false;  // a modal dialog paused the play and owes it a restart
     std::vector<std::int64_t> m_liveDotSamples;
 };

@@ -77,13 +77,24 @@ void CAFView::SetRecordFormat(int index) {
     RedrawAll();
 }
 
+// A play that was running is paused for the dialog and goes on after it; one the user had paused stays paused. A
+// take keeps running and throws its buffers away meanwhile; one paused by its button stays paused.
 void CAFView::HoldAudioForDialog(bool hold) {
-    ClassAux* panel = ActivePanel();
-    if (panel == nullptr) return;
-    if (hold)
-        panel->holdAudio(ClassAux::Hold::Limit);
-    else
-        panel->releaseAudio(ClassAux::Hold::Limit);
+    const bool playing = m_player != nullptr && m_player->deviceOpen();
+    const ClassAux* panel = ActivePanel();
+    const bool pausedByButton = panel != nullptr && panel->capturePausedByButton();
+    if (hold) {
+        m_pausedForDialog = playing && !m_player->paused();
+        if (m_pausedForDialog) m_player->Pause();
+        if (Recording) RecordPaused = true;
+        return;
+    }
+    if (playing) {
+        if (m_zoomed) update();  // the cursor line drawn again where the play stands
+        if (m_pausedForDialog) m_player->Restart();
+    }
+    if (Recording && !pausedByButton) RecordPaused = false;
+    m_pausedForDialog = false;
 }
 
 void CAFView::PausePlay() {

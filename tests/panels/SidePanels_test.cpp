@@ -239,11 +239,6 @@ private slots:
         QCOMPARE(spectrogram.LimitBox()->count(), 3);
         view.SetRecordFormat(7);
         QCOMPARE(spectrogram.LimitBox()->count(), 6);
-        // A modal dialog holds the capture as an open list does, until it closes.
-        view.HoldAudioForDialog(true);
-        QVERIFY(view.RecordPaused);
-        view.HoldAudioForDialog(false);
-        QVERIFY(!view.RecordPaused);
     }
 
     void picturesOfEachPanelOnItsPage() {

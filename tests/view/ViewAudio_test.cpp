@@ -73,6 +73,10 @@ void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
     QCOMPARE(a.view.bytePosition(), static_cast<std::int64_t>(first.size() * 2));
     QCOMPARE(a.view.picture().columnsDone(), 40);  // two columns per buffer
     QVERIFY(a.view.liveTrace().count() > 0);
+    // A modal dialog throws the buffers away while it is open; capture goes on after it.
+    a.view.HoldAudioForDialog(true);
+    a.capture(counting(3 * kBufferSamples, 7000));
+    a.view.HoldAudioForDialog(false);
 
     // Paused, the take so far is on screen; what the device brings meanwhile is thrown away.
     a.click(a.panel().PauseRecordButton());
@@ -86,6 +90,10 @@ void ViewAudioTest::aTakeDrawsLiveAndPausedSoundStaysOutOfTheFile() {
     pumpDeviceEvents();
     a.click(a.panel().PausePlayButton());
     QVERIFY(a.output.calls.back() == "pause" && a.panel().shows(a.panel().PausePlayButton(), PanelIcon::Play));
+    // A dialog over a play the user paused, and over a take paused by its button, leaves both paused.
+    a.view.HoldAudioForDialog(true);
+    a.view.HoldAudioForDialog(false);
+    QVERIFY(a.output.calls.back() == "pause" && a.view.RecordPaused);
     a.click(a.panel().PausePlayButton());
     QVERIFY(a.output.calls.back() == "restart");
     a.click(a.panel().PlayButton());
@@ -189,6 +197,10 @@ void ViewAudioTest::aPlayDrawsLiveStopsOnTheButtonAndPlaysAgain() {
         QVERIFY(!a.panel().RecordButton()->isEnabled());
         a.output.play(6);
         pumpDeviceEvents();
+        a.view.HoldAudioForDialog(true);  // a running play pauses for a dialog and goes on after it
+        QVERIFY(a.output.calls.back() == "pause");
+        a.view.HoldAudioForDialog(false);
+        QVERIFY(a.output.calls.back() == "restart");
         QCOMPARE(a.view.picture().columnsDone(), 12);  // the live pass: two columns per header back
         QVERIFY(std::ranges::equal(std::span(a.output.sounded).first(3000),
                                    std::span(reinterpret_cast<const std::uint8_t*>(voice.data()), 3000)));
