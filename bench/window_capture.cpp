@@ -71,15 +71,13 @@ pid_t startBusyProcess() {
 // The record-format index of the rate button's three rates.
 int formatIndexFor(int rate) { return rate == 44100 ? 7 : rate == 22050 ? 5 : 3; }
 
-std::int16_t counting(std::size_t i) { return static_cast<std::int16_t>(1 + i % 30000); }
-
 // The singer: a child process that writes the counting signal into the test pipe at the pace of real time, so that
 // its work is not counted as the program's. Started before the program has any thread.
 pid_t startSinger(const TestDevices& devices, std::size_t length) {
     drainPipe(devices.fifo);
     const pid_t child = fork();
     if (child == 0) {
-        PipeFeeder feeder(devices.fifo, devices.rate, counting, length);
+        PipeFeeder feeder(devices.fifo, devices.rate, countingSample, length);
         for (;;) pause();
     }
     return child;
@@ -145,7 +143,7 @@ int main(int argc, char** argv) {
     const WaveLoadResult take = WaveLoad(root / "pac001" / (devices->rate == 44100 ? "qv001.wav" : "wv001.wav"));
     std::size_t breaks = 0;
     for (std::size_t i = 1; i < take.samples.size(); ++i)
-        breaks += take.samples[i] != counting(static_cast<std::size_t>(take.samples[0]) + i - 1);
+        breaks += take.samples[i] != countingSample(static_cast<std::size_t>(take.samples[0]) + i - 1);
     std::printf("%d Hz, %d s take in buffers of %d bytes%s, F0 read-out on, spectrogram page at 1024 x 768\n",
                 devices->rate, seconds,
                 UpdateRateBytes(devices->rate, LeadingNumber(panel.UpdateRateBox()->currentText())) & ~1,

@@ -363,6 +363,7 @@ private:
     void playCapture();
     void playCaptureSelection(int selectionStart);
     bool playOnce(std::int64_t first, std::int64_t length);
+    bool startChunkedPlay(std::int64_t from, std::int64_t chunkSamples);
     void StepCursor();
     void drawCursorLine(QPainter& painter, float position) const;
     std::int64_t liveDotSample(std::int64_t bytePosition);

@@ -245,14 +245,5 @@ void CAFView::restartPlayAtNewRate() {
     m_player->WaitClosed();
     m_play.rateChanging = false;
     RecordPaused = holdCapture;
-    if (!openPlayer()) return;
-    const std::int64_t from = m_play.bytePosition / 2;
-    const PlayLayout layout{m_displayMode == DisplayMode::FileSpectrogramMode, false, m_layout.GraphWidth};
-    Playing = true;
-    if (!PlayChunked(m_play, *m_player, m_playBase + from, m_playCount - from, m_recorder->updateRateBytes() / 2,
-                     layout, m_prompt)) {
-        m_player->Close();
-        return;
-    }
-    showPlayButtons(true);
+    if (openPlayer()) startChunkedPlay(m_play.bytePosition / 2, m_recorder->updateRateBytes() / 2);
 }

@@ -122,13 +122,7 @@ void CAFView::OnPlay() {
         m_liveColumn = 0;
         m_playBase = m_recording.samples().data() + m_firstShown;
         m_playCount = m_lastShown - m_firstShown;
-        const PlayLayout layout{m_displayMode == DisplayMode::FileSpectrogramMode, true, m_layout.GraphWidth};
-        Playing = true;
-        if (!PlayChunked(m_play, *m_player, m_playBase, m_playCount, m_recorder->updateRateBytes(), layout, m_prompt)) {
-            m_player->Close();
-            return;
-        }
-        showPlayButtons(true);
+        if (!startChunkedPlay(0, m_recorder->updateRateBytes())) return;
     }
     UpdateCommands();
 }
@@ -162,16 +156,23 @@ void CAFView::playWhole() {
     m_liveDotSamples.clear();
     m_playBase = m_recording.samples().data();
     m_playCount = static_cast<std::int64_t>(m_recording.SampleCount());
-    Playing = true;
-    const PlayLayout layout{m_displayMode == DisplayMode::FileSpectrogramMode, false, m_layout.GraphWidth};
-    if (!PlayChunked(m_play, *m_player, m_playBase, m_playCount, m_recorder->updateRateBytes() / 2, layout, m_prompt)) {
-        m_player->Close();
-        return;
-    }
-    showPlayButtons(true);
+    if (!startChunkedPlay(0, m_recorder->updateRateBytes() / 2)) return;
     rebuildPage(false);
     update();
     UpdateCommands();
+}
+
+// The samples of the play from sample `from` on, cut into chunks of `chunkSamples` on the device already open. False,
+// with the device closed, when the play could not start.
+bool CAFView::startChunkedPlay(std::int64_t from, std::int64_t chunkSamples) {
+    const PlayLayout layout{m_displayMode == DisplayMode::FileSpectrogramMode, m_zoomed, m_layout.GraphWidth};
+    Playing = true;
+    if (!PlayChunked(m_play, *m_player, m_playBase + from, m_playCount - from, chunkSamples, layout, m_prompt)) {
+        m_player->Close();
+        return false;
+    }
+    showPlayButtons(true);
+    return true;
 }
 
 // A paused take played whole: its picture starts again from the left, and comes back as it was when the play ends.

@@ -81,11 +81,8 @@ void CAFView::StartRecording() {
     if (!startTake()) {
         // A failed start leaves the Record button disabled, since the device said why and a second try would repeat
         // it; a page shown anew enables it again, once the clinician has seen to the input.
-        for (ClassAux* panel : bothPanels()) {
-            panel->ShowRecording(false);
-            panel->RecordButton()->setEnabled(false);
-            panel->RateButton()->setEnabled(true);
-        }
+        showRecordButtons(false);
+        for (ClassAux* panel : bothPanels()) panel->RecordButton()->setEnabled(false);
         UpdateCommands();
         return;
     }

@@ -24,6 +24,9 @@ struct TestDevices {
 };
 std::optional<TestDevices> findTestDevices();
 
+// A counting signal that is never 0: sample i holds 1 + i % 30000, so that any sample lost, doubled or moved shows.
+inline std::int16_t countingSample(std::size_t i) { return static_cast<std::int16_t>(1 + i % 30000); }
+
 // Throws away what an earlier test left in the pipe, so that a capture starts with what this test feeds.
 void drainPipe(const std::filesystem::path& fifo);
 

@@ -17,9 +17,6 @@
 
 namespace {
 
-// A counting signal that is never 0: sample i holds 1 + i % 30000.
-std::int16_t counting(std::size_t i) { return static_cast<std::int16_t>(1 + i % 30000); }
-
 TEST(RealCapture, ATakeArrivesSampleForSampleAcrossANewBufferSize) {
     const std::optional<TestDevices> devices = findTestDevices();
     if (!devices) GTEST_SKIP() << "no PulseAudio server with a test pipe source (scripts/pulse-test-server.sh)";
@@ -40,7 +37,7 @@ TEST(RealCapture, ATakeArrivesSampleForSampleAcrossANewBufferSize) {
     recorder.SetUpdateRateBytes(458);  // the spectrogram page's default at 11025 Hz: the most buffers a second
     recorder.SetOutputPath(root / "take.wav");
     ASSERT_EQ(recorder.Start(&window), 1) << prompt.last();
-    PipeFeeder feeder(devices->fifo, 11025, counting, static_cast<std::size_t>(values) * 4);
+    PipeFeeder feeder(devices->fifo, 11025, countingSample, static_cast<std::size_t>(values) * 4);
     recorder.WaitClosed();
     feeder.stop();
     const std::vector<std::int16_t> got = WaveLoad(root / "take.wav").samples;
@@ -48,7 +45,7 @@ TEST(RealCapture, ATakeArrivesSampleForSampleAcrossANewBufferSize) {
     // One unbroken stretch of what was fed, from near its start.
     EXPECT_LT(static_cast<std::size_t>(got[0]), 11025u / 2);
     for (std::size_t i = 1; i < got.size(); ++i)
-        ASSERT_EQ(got[i], counting(static_cast<std::size_t>(got[0]) + i - 1)) << i;
+        ASSERT_EQ(got[i], countingSample(static_cast<std::size_t>(got[0]) + i - 1)) << i;
     EXPECT_TRUE(prompt.shown.empty());
 }
 

@@ -27,7 +27,7 @@ TEST(RealPlayback, AChunkedPlaySoundsTheFileAndEndsOneChunkShort) {
     // Silence first, so that the moment the sink wakes up costs no sound; then a count that is never 0, so that any
     // sample lost, doubled or moved shows.
     std::vector<std::int16_t> file(3000, 0);
-    for (int i = 0; i < 4 * 11025; ++i) file.push_back(static_cast<std::int16_t>(1 + i % 30000));
+    for (int i = 0; i < 4 * 11025; ++i) file.push_back(countingSample(static_cast<std::size_t>(i)));
     const auto count = static_cast<std::int64_t>(file.size());
     // A chunk of 1024 samples: past the first 1500 samples there are (count - 1500) / 1024 chunks of
     // (count - 1500) / chunks samples each, and the last of them is not played.
